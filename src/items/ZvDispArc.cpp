@@ -1,0 +1,56 @@
+#include "items/ZvDispArc.h"
+
+#include "clip/ZvDispMapClipper.h"
+#include "context/ZvDispGL.h"
+#include "items/ItemUpdate.h"
+#include "platform/zvcom/ZvUtilGeo.h"
+
+CZvDispArc::CZvDispArc(const CZvDispPoint& center, double radius, float startAngle, float endAngle)
+    : m_radius(radius), m_center(center), m_endAngle(endAngle), m_startAngle(startAngle) {}
+
+CZvDispArc::~CZvDispArc() = default;
+
+CZvDispArc& CZvDispArc::operator=(const CZvDispArc& other) {
+    CZvDisplayItem::operator=(other);
+    m_radius = other.m_radius;
+    m_center = other.m_center;
+    m_endAngle = other.m_endAngle;
+    m_startAngle = other.m_startAngle;
+    return *this;
+}
+
+ZVDispType CZvDispArc::GetDispType() {
+    return ZV_DISP_ARC;
+}
+
+bool CZvDispArc::Clip(CZvDispMapClipper* const clipper) {
+    return clipper->ClipArc(this);
+}
+
+void CZvDispArc::Draw(CZvDisplayContext* const context) {
+    if (IsDeleted()) return;
+    DrawInCodeColor([&] { context->DrawArc(*this); });
+}
+
+void CZvDispArc::Erase(CZvDisplayContext* const context) {
+    const ZVColor own = GetColor();
+    StoreColor(ZV_COLOR_BLACK);
+    context->DrawArc(*this);
+    StoreColor(own);
+}
+
+void CZvDispArc::V_Rotate(const CZvDispPoint& origin, double degrees) {
+    if (degrees == 0.0) return;
+    CZvUtilGeo::RotatePoint(m_center, origin, degrees);
+    m_endAngle = static_cast<float>(m_endAngle + degrees);
+    m_startAngle = static_cast<float>(m_startAngle + degrees);
+}
+
+void CZvDispArc::V_Update(const void* record) {
+    const T_ZV_STRUC_UPDATE& update = zv::AsUpdate(record);
+    Erase(update.context);
+    SetCustomCode(update.code);
+    if (!zv::IsKnownStep(update.code)) return;
+    if (update.code == 'm') zv::MoveBy(m_center, update);
+    CZvDisplayItem::V_Update(record);
+}

@@ -1,0 +1,215 @@
+// The hibernate record of each kind of item: the kind, the common part, the kind's own part. What
+// is written and what is read stand side by side; the grammar is docs/hibernate-record.md.
+#include "items/ZvDispArc.h"
+#include "items/ZvDispCircle.h"
+#include "items/ZvDispGroup.h"
+#include "items/ZvDispPolygon.h"
+#include "items/ZvDispSymbols.h"
+#include "items/ZvDispText.h"
+#include "persist/ItemTransfer.h"
+#include "persist/ZvDispFileParam.h"
+
+bool CZvDisplayItem::Hibernate(zv::RecordWriter& to) {
+    const zv::TransferScope scope(m_out, to);
+    CZvDispFileParam file;
+    return V_DispHib(file);
+}
+
+bool CZvDisplayItem::Wake(zv::RecordReader& from) {
+    const zv::TransferScope scope(m_in, from);
+    CZvDispFileParam file;
+    return V_DispWake(file);
+}
+
+bool CZvDisplayItem::HibDispItem(std::FILE* stream) {
+    if (!stream) return false;
+    m_stream = stream;
+    zv::RecordWriter record;
+    const bool done = Hibernate(record);
+    std::fwrite(record.Bytes().data(), 1, record.Size(), stream);
+    return done;
+}
+
+bool CZvDisplayItem::WakeDispItem(std::FILE* stream) {
+    if (!stream) return false;
+    m_stream = stream;
+    zv::RecordReader record(stream);
+    return Wake(record);
+}
+
+CZvDisplayItem* CZvDisplayItem::S_MakeNewItem(std::FILE* stream) {
+    if (!stream) return nullptr;
+    zv::RecordReader record(stream);
+    return MakeNewItem(record);
+}
+
+CZvDisplayItem* CZvDisplayItem::MakeNewItem(zv::RecordReader& from) {
+    if (from.AtEnd()) return nullptr;
+    switch (from.Int()) {
+    case ZV_DISP_TEXT: return new CZvDispText;
+    case ZV_DISP_POLYLINE: return new CZvDispPolyLine;
+    case ZV_DISP_POLYGON: return new CZvDispPolygon;
+    case ZV_DISP_SYMBOL: return new CZvDispSymbols;
+    case ZV_DISP_CIRCLE: return new CZvDispCircle;
+    case ZV_DISP_GROUP: return new CZvDispGroup;
+    case ZV_DISP_ARC: return new CZvDispArc;
+    default: return nullptr;
+    }
+}
+
+bool CZvDisplayItem::V_DispHib(CZvDispFileParam&) {
+    DispOut(static_cast<int>(GetDispType()));
+    DispOut(m_fill);
+    DispOut(m_inactive);
+    DispOut(m_smooth);
+    DispOut(m_visible);
+    DispOut(static_cast<unsigned char>(m_color));
+    DispOut(m_degree);
+    DispOut(m_lineWidth);
+    DispOut(m_lineType);
+    DispOut(static_cast<int>(m_fillStyle));
+    DispOut(m_id);
+    DispOut(m_pickID);
+    DispOut(m_brightness);
+    return true;
+}
+
+bool CZvDisplayItem::V_DispWake(CZvDispFileParam&) {
+    auto color = static_cast<unsigned char>(m_color);
+    int fillStyle = 0;
+    DispIn(m_fill);
+    DispIn(m_inactive);
+    DispIn(m_smooth);
+    DispIn(m_visible);
+    DispIn(color);
+    DispIn(m_degree);
+    DispIn(m_lineWidth);
+    DispIn(m_lineType);
+    DispIn(fillStyle);
+    DispIn(m_id);
+    DispIn(m_pickID);
+    DispIn(m_brightness);
+    m_color = static_cast<ZVColor>(color);
+    m_fillStyle = static_cast<E_FILL_STYLE>(fillStyle);
+    return true;
+}
+
+bool CZvDispText::V_DispHib(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispHib(file);
+    DispOut(static_cast<unsigned char>(m_horizontal));
+    DispOut(static_cast<unsigned char>(m_vertical));
+    DispOut(static_cast<double>(m_height));
+    DispOut(m_point);
+    DispOut(m_font);
+    DispOut(m_label);
+    DispOut(m_offsetID);
+    return true;
+}
+
+bool CZvDispText::V_DispWake(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispWake(file);
+    auto horizontal = static_cast<unsigned char>(m_horizontal);
+    auto vertical = static_cast<unsigned char>(m_vertical);
+    double height = 0.0;
+    DispIn(horizontal);
+    DispIn(vertical);
+    DispIn(height);
+    DispIn(m_point);
+    DispIn(m_font);
+    DispIn(m_label);
+    DispIn(m_offsetID);
+    m_horizontal = static_cast<char>(horizontal);
+    m_vertical = static_cast<char>(vertical);
+    m_height = static_cast<float>(height);
+    return true;
+}
+
+bool CZvDispPolyLine::V_DispHib(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispHib(file);
+    DispOut(m_vertices);
+    return true;
+}
+
+bool CZvDispPolyLine::V_DispWake(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispWake(file);
+    DispIn(m_vertices);
+    return true;
+}
+
+bool CZvDispPolygon::V_DispHib(CZvDispFileParam& file) {
+    CZvDispPolyLine::V_DispHib(file);
+    DispOut(m_special);
+    DispOut(m_minDepth);
+    DispOut(m_maxDepth);
+    DispOut(m_differentZ);
+    return true;
+}
+
+bool CZvDispPolygon::V_DispWake(CZvDispFileParam& file) {
+    CZvDispPolyLine::V_DispWake(file);
+    DispIn(m_special);
+    DispIn(m_minDepth);
+    DispIn(m_maxDepth);
+    DispIn(m_differentZ);
+    return true;
+}
+
+bool CZvDispSymbols::V_DispHib(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispHib(file);
+    DispOut(m_center);
+    DispOut(m_scale);
+    DispOut(m_number);
+    DispOut(static_cast<int>(m_textColor));
+    DispOut(static_cast<int>(m_fillColor));
+    DispOut(m_useOrigColor);
+    return true;
+}
+
+bool CZvDispSymbols::V_DispWake(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispWake(file);
+    int textColor = 0, fillColor = 0;
+    DispIn(m_center);
+    DispIn(m_scale);
+    DispIn(m_number);
+    DispIn(textColor);
+    DispIn(fillColor);
+    DispIn(m_useOrigColor);
+    m_textColor = static_cast<ZVColor>(textColor);
+    m_fillColor = static_cast<ZVColor>(fillColor);
+    return true;
+}
+
+bool CZvDispCircle::V_DispHib(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispHib(file);
+    DispOut(m_center);
+    DispOut(m_radius);
+    return true;
+}
+
+bool CZvDispCircle::V_DispWake(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispWake(file);
+    DispIn(m_center);
+    DispIn(m_radius);
+    return true;
+}
+
+bool CZvDispArc::V_DispHib(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispHib(file);
+    DispOut(m_center);
+    DispOut(m_radius);
+    DispOut(static_cast<double>(m_endAngle));
+    DispOut(static_cast<double>(m_startAngle));
+    return true;
+}
+
+bool CZvDispArc::V_DispWake(CZvDispFileParam& file) {
+    CZvDisplayItem::V_DispWake(file);
+    double endAngle = 0.0, startAngle = 0.0;
+    DispIn(m_center);
+    DispIn(m_radius);
+    DispIn(endAngle);
+    DispIn(startAngle);
+    m_endAngle = static_cast<float>(endAngle);
+    m_startAngle = static_cast<float>(startAngle);
+    return true;
+}
