@@ -1,0 +1,186 @@
+#include "context/ItemLists.h"
+
+#include <GL/gl.h>
+
+#include <utility>
+
+#include "context/ListNames.h"
+
+namespace zv {
+
+namespace {
+
+bool IsListOpenInDriver() {
+    GLint list = 0;
+    glGetIntegerv(GL_LIST_INDEX, &list);
+    return list != 0;
+}
+
+} // namespace
+
+ItemLists::ItemLists(const ScreenView& view, const ShapeLibrary& shapes, LookTable& looks)
+    : m_view(view), m_shapes(shapes), m_looks(looks), m_player(looks, shapes, m_batch),
+      m_recorder(looks), m_direct({}) {}
+
+GlSink::Setup ItemLists::GlSetup() const {
+    return {m_view.Origin(), m_fontBase, true};
+}
+
+ItemLists::Open ItemLists::OpenFor(unsigned id, Keep keep) {
+    if (id == kNoPickID) return {id, keep == Keep::Recording && !IsListOpenInDriver(), false};
+    const bool driver =
+        keep == Keep::DriverOnly || (m_driverLists < kDriverLists && !IsReservedForShapes(id));
+    return {id, keep == Keep::Recording, driver};
+}
+
+void ItemLists::NewList(unsigned id, Keep keep) {
+    if (m_depth++ > 0) return;
+    if (id != kNoPickID) DeleteList(id);
+    m_open = OpenFor(id, keep);
+    if (m_open.records)
+        m_recorder.Reset(false);
+    else
+        Flush();
+    m_driverOnly |= !m_open.records;
+    if (m_open.driver) glNewList(id, GL_COMPILE);
+    m_gl.emplace(GlSetup());
+    m_tee.emplace(*m_gl, m_recorder);
+    if (!m_open.records)
+        m_sink = &*m_gl;
+    else if (m_open.driver)
+        m_sink = &*m_tee;
+    else
+        m_sink = &m_recorder;
+}
+
+void ItemLists::EndList() {
+    if (--m_depth > 0) return;
+    m_sink = nullptr;
+    if (m_open.driver) glEndList();
+    if (!m_open.records) return;
+    if (m_open.id != kNoPickID) {
+        Enter(m_open);
+        return;
+    }
+    const Box box = m_shapes.BoundsOf(m_recorder.Words());
+    const Point2 origin = m_recorder.Origin();
+    Box onMap;
+    onMap.Add(box, Affine::Shift(origin.x, origin.y));
+    Play(m_recorder.Words(), origin, onMap);
+    Flush();
+}
+
+void ItemLists::Enter(const Open& open) {
+    ItemEntry& entry = m_directory.At(open.id);
+    entry.present = true;
+    entry.hasDriverList = open.driver;
+    entry.origin = m_recorder.Origin();
+    entry.record = m_arena.Store(m_recorder.Words());
+    entry.refersToShapes = m_shapes.RefersToShapes(m_recorder.Words());
+    entry.SetBox(m_shapes.BoundsOf(m_recorder.Words()));
+    m_directory.CountUp();
+    if (open.driver) ++m_driverLists;
+}
+
+void ItemLists::Forget(unsigned id, ItemEntry& entry) {
+    m_arena.Free(entry.record);
+    m_directory.CountDown();
+    if (entry.hasDriverList) {
+        glDeleteLists(id, 1);
+        --m_driverLists;
+    }
+    entry = {};
+}
+
+bool ItemLists::IsList(unsigned id) {
+    const ItemEntry* entry = m_directory.Find(id);
+    if (entry && entry->present && !entry->hasDriverList) return true;
+    return glIsList(id);
+}
+
+void ItemLists::DeleteList(unsigned id) {
+    ItemEntry* entry = m_directory.Find(id);
+    if (entry && entry->present)
+        Forget(id, *entry);
+    else if (glIsList(id))
+        glDeleteLists(id, 1);
+}
+
+bool ItemLists::CallList(unsigned id) {
+    ItemEntry* entry = m_directory.Find(id);
+    const bool present = entry && entry->present;
+    if (present && !entry->hasDriverList) {
+        Play(m_arena.At(entry->record), entry->origin, entry->MapBox());
+        return true;
+    }
+    if (!glIsList(id)) {
+        if (present) Forget(id, *entry); // a host deleted it past this class
+        return false;
+    }
+    if (present) {
+        Play(m_arena.At(entry->record), entry->origin, entry->MapBox());
+    } else {
+        Flush();
+        glCallList(id);
+    }
+    return true;
+}
+
+DrawSink& ItemLists::Sink() {
+    if (m_sink) return *m_sink;
+    Flush();
+    m_direct.SetUp(GlSetup());
+    return m_direct;
+}
+
+void ItemLists::BeginShape(DrawSink& sink) {
+    Flush();
+    ++m_depth;
+    m_outerSink = std::exchange(m_sink, &sink);
+}
+
+void ItemLists::EndShape() {
+    --m_depth;
+    m_sink = std::exchange(m_outerSink, nullptr);
+}
+
+const ScreenMatrix& ItemLists::Matrix() {
+    if (!m_matrixKnown) m_matrix = m_view.Current();
+    m_matrixKnown = m_replaying || m_batch.IsOpen();
+    return m_matrix;
+}
+
+void ItemLists::Play(std::span<const std::uint32_t> words, const Point2& origin, const Box& box) {
+    const ScreenMatrix& matrix = Matrix();
+    if (box.IsEmpty() || !matrix.visible.Meets(box)) return;
+    if (!m_batch.IsOpen()) m_batch.Open(matrix);
+    const Point2 at{origin.x - matrix.center.x, origin.y - matrix.center.y};
+    Box relative;
+    relative.Add(box, Affine::Shift(-matrix.center.x, -matrix.center.y));
+    const Box* limits = matrix.safe.Holds(relative) ? nullptr : &matrix.safe;
+    m_player.Play(words, Affine::Shift(at.x, at.y), limits);
+    if (!m_replaying) Flush();
+}
+
+void ItemLists::BeginReplay() {
+    Flush();
+    m_replaying = true;
+}
+
+void ItemLists::EndReplay() {
+    m_replaying = false;
+    Flush();
+}
+
+void ItemLists::Flush() {
+    if (m_batch.IsOpen()) m_batch.Close();
+    m_matrixKnown = false;
+}
+
+void ItemLists::ShapesChanged() {
+    m_directory.ForEach([this](unsigned, ItemEntry& entry) {
+        if (entry.refersToShapes) entry.SetBox(m_shapes.BoundsOf(m_arena.At(entry.record)));
+    });
+}
+
+} // namespace zv

@@ -1,0 +1,29 @@
+#pragma once
+
+/// Names of display lists in one rendering context.
+namespace zv {
+
+inline constexpr unsigned kSymbolLists = 2000;    ///< + symbol number
+inline constexpr unsigned kCharacterLists = 4000; ///< + character code
+inline constexpr unsigned kCharacterCount = 178;  ///< the last ones are empty
+inline constexpr unsigned kFirstPickID = 10001;   ///< items: their pick ID
+inline constexpr unsigned kNoPickID = 0xFFFFFFFFu;
+inline constexpr unsigned kFontBlock = 256; ///< lists of one style of the outline font
+inline constexpr unsigned kFontStyles = 4;
+/// Where the outline font's blocks lie when the driver offers names that others use.
+inline constexpr unsigned kFontLists = kSymbolLists - kFontBlock * kFontStyles;
+
+/// Whether the symbol's list would bear the name of a character's or an item's list.
+constexpr bool CollidesWithOthers(int symbol) {
+    const long long name = static_cast<long long>(kSymbolLists) + symbol;
+    return name < kSymbolLists ||
+           (name >= kCharacterLists && name < kCharacterLists + kCharacterCount) ||
+           name >= kFirstPickID;
+}
+
+/// Whether an item's list may not bear its pick ID, since symbols and characters lie there.
+constexpr bool IsReservedForShapes(unsigned pickID) {
+    return pickID == 0 || (pickID >= kSymbolLists && pickID < kFirstPickID);
+}
+
+} // namespace zv

@@ -1,0 +1,411 @@
+#include "context/ZvDisplayContext.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+
+#include "platform/zvset/ZvSettings.h"
+#include "support/LogLines.h"
+#include "support/RecordingContext.h"
+
+namespace {
+
+using zv::test::LogLines;
+using zv::test::RecordingContext;
+
+/// A target that has lines and polygons only: everything else comes through the frame's fallbacks.
+class PlainTarget : public RecordingContext {
+  public:
+    std::vector<std::vector<CZvDispPoint>> shapes;
+    int color = 0, width = 0;
+    bool filled = false, inactive = false;
+    void DrawCircle(CZvDispCircle& circle) override { CZvDisplayContext::DrawCircle(circle); }
+    void DrawArc(CZvDispArc& arc) override { CZvDisplayContext::DrawArc(arc); }
+    void DrawText(CZvDispText& text) override { DrawStrokeFontText(text); }
+    void DrawPolygon(CZvDispPolygon& polygon) override {
+        shapes.push_back(polygon.GetVertices());
+        color = polygon.GetColor();
+        width = polygon.GetLineWidth();
+        filled = polygon.GetFill();
+        inactive = polygon.GetInActive();
+    }
+    void DrawPolyLine(CZvDispPolyLine& line) override { shapes.push_back(line.GetVertices()); }
+
+    using CZvDisplayContext::boundPolygon;
+    using CZvDisplayContext::BuildExportFileMoniker;
+    using CZvDisplayContext::clipOn;
+    using CZvDisplayContext::ClipSymbol;
+    using CZvDisplayContext::ClipText;
+    using CZvDisplayContext::CopyTextItem;
+    using CZvDisplayContext::culture;
+    using CZvDisplayContext::GetXYPos;
+    using CZvDisplayContext::inSymbol;
+    using CZvDisplayContext::IsInsideFinalBorder;
+    using CZvDisplayContext::layer;
+    using CZvDisplayContext::placeRotate;
+    using CZvDisplayContext::placeScale;
+    using CZvDisplayContext::placeX;
+    using CZvDisplayContext::placeY;
+    using CZvDisplayContext::post;
+    using CZvDisplayContext::strokeFont;
+    using CZvDisplayContext::uset;
+    using CZvDisplayContext::ValidateStringAsFileName;
+};
+
+TEST(ContextFrame, StartsAsAnyOtherTarget) {
+    PlainTarget target;
+    EXPECT_EQ(target.GetType(), 8);
+    EXPECT_FALSE(target.GetIsOpenGL());
+    EXPECT_EQ(target.layer, 13);
+    EXPECT_EQ(target.post, 0);
+    EXPECT_EQ(target.GetSettingsMgr(), nullptr);
+    EXPECT_EQ(target.GetDispInfo(), nullptr);
+    EXPECT_EQ(target.GetMemCtrl(), nullptr);
+    EXPECT_FALSE(target.GetProcessInvisible());
+    EXPECT_TRUE(target.ReadTagInfo(1, nullptr));
+}
+
+TEST(ContextFrame, TagsOneToFourAreKeptAndOthersPassedOver) {
+    PlainTarget target;
+    for (int tag = 0; tag <= 7; ++tag) {
+        const int value = 100 + tag;
+        EXPECT_TRUE(target.WriteTagInfo(tag, &value));
+    }
+    EXPECT_EQ(target.layer, 101);
+    EXPECT_EQ(target.post, 102);
+    EXPECT_EQ(target.uset, 103);
+    EXPECT_EQ(target.culture, 104);
+}
+
+TEST(ContextFrame, FontNamesStandByIndex) {
+    PlainTarget target;
+    const char* names[] = {"Stroke", "Times",       "Helvetica",    "Courier", "Tahoma",
+                           "Arial",  "Arial Black", "Arial Narrow", "Italic",  "Impact"};
+    for (int i = 0; i < 10; ++i)
+        EXPECT_EQ(target.GetFontName(i), names[i]);
+}
+
+TEST(ContextFrame, ALineOfOneVertexIsLoggedAndOneOfTwoDrawn) {
+    LogLines log;
+    PlainTarget target;
+    CZvDispPolyLine line(std::vector<CZvDispPoint>{{1, 1}});
+    line.SetID("L1");
+    EXPECT_TRUE(target.DrawDispItem(&line));
+    EXPECT_TRUE(target.shapes.empty());
+    ASSERT_EQ(log.Get().size(), 1u);
+    EXPECT_EQ(log.Get()[0],
+              (LogLines::Line{"Only one point found in polyglineL1 Skipped.", 103, false}));
+    line.AddPoint({2, 2});
+    EXPECT_TRUE(target.DrawDispItem(&line));
+    EXPECT_EQ(target.shapes.size(), 1u);
+    CZvDispPolyLine empty;
+    EXPECT_TRUE(target.DrawDispItem(&empty));
+    EXPECT_EQ(target.shapes.size(), 2u) << "a line without vertices goes on to the target";
+}
+
+TEST(ContextFrame, NoItemAndAnItemWithoutKindAreRefused) {
+    PlainTarget target;
+    CZvDisplayItem item;
+    EXPECT_FALSE(target.DrawDispItem(nullptr));
+    EXPECT_FALSE(target.DrawDispItem(&item));
+}
+
+TEST(ContextFrame, ACircleReachesAPlainTargetAs75VerticesWithTheFirstDoubled) {
+    PlainTarget target;
+    CZvDispCircle circle({10, 20}, 5.0);
+    circle.SetFill(true);
+    circle.SetColor(static_cast<ZVColor>(7), 0);
+    circle.SetLineWidth(3, 0);
+    circle.SetInActive(true);
+    target.DrawDispItem(&circle);
+    ASSERT_EQ(target.shapes.size(), 1u);
+    const auto& points = target.shapes[0];
+    ASSERT_EQ(points.size(), 75u);
+    EXPECT_EQ(points[0].GetX(), 15.0);
+    EXPECT_EQ(points[1].GetX(), points[0].GetX());
+    EXPECT_EQ(points[1].GetY(), points[0].GetY());
+    EXPECT_NEAR(points[19].GetX(), 10.0, 1e-6) << "90 degrees, in the frame's 57.29578";
+    EXPECT_NEAR(points[19].GetY(), 25.0, 1e-6);
+    EXPECT_EQ(points[74].GetX(), points[73].GetX());
+    EXPECT_TRUE(target.filled);
+    EXPECT_EQ(target.color, 7);
+    EXPECT_EQ(target.width, 3);
+    EXPECT_TRUE(target.inactive);
+}
+
+TEST(ContextFrame, AnArcOfThreeDegreesHasItsStartTwiceAndItsEnd) {
+    PlainTarget target;
+    CZvDispArc arc({0, 0}, 1.0, 0.0f, 3.0f);
+    target.DrawDispItem(&arc);
+    const auto& points = target.shapes.at(0);
+    ASSERT_EQ(points.size(), 3u);
+    EXPECT_EQ(points[0].GetX(), 1.0);
+    EXPECT_EQ(points[1].GetX(), 1.0);
+    EXPECT_NEAR(points[2].GetY(), std::sin(3.0 / 57.29578), 1e-15);
+}
+
+TEST(ContextFrame, AnArcThatRunsBackwardsKeepsItsStart) {
+    PlainTarget target;
+    CZvDispArc arc({0, 0}, 1.0, 90.0f, 0.0f);
+    target.DrawDispItem(&arc);
+    ASSERT_EQ(target.shapes.at(0).size(), 1u) << "no step, and 0 degrees is not above the start";
+    CZvDispArc odd({0, 0}, 1.0, 0.0f, std::nanf(""));
+    EXPECT_TRUE(target.DrawDispItem(&odd));
+}
+
+TEST(ContextFrame, DisplayInfoNamesTheSingleMemberToDraw) {
+    RecordingContext context;
+    CZvDispGroup group;
+    for (int key : {1, 2, 3}) {
+        auto* circle = new CZvDispCircle({double(key), 0}, 1.0);
+        group.AddPrimitive(key, circle);
+    }
+    T_ZV_STRUC_DISP_INFO info;
+    info.memberNumber = 2;
+    context.SetDispInfo(&info);
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\ncircle 2,0 r 1 c8\n");
+    group.GetGroupItem(2)->SetVisibility(false);
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\n");
+    info.memberNumber = 9;
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\n");
+    info.memberNumber = 0;
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\ncircle 1,0 r 1 c8\ncircle 3,0 r 1 c8\n");
+    group.SetVisibility(false);
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\n");
+}
+
+TEST(ContextFrame, AGroupsColourIsLentToItsMembers) {
+    RecordingContext context;
+    CZvDispGroup group;
+    auto* circle = new CZvDispCircle({1, 0}, 1.0);
+    circle->SetColor(static_cast<ZVColor>(5), 0);
+    group.AddPrimitive(1, circle);
+    group.SetUseGroupColorFlg(true);
+    context.DrawDispItem(&group);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c255\ncircle 1,0 r 1 c255\n");
+    EXPECT_EQ(circle->GetColor(), 5);
+}
+
+CZvDispText& Place(CZvDispText& text, const char* label, char h, char v) {
+    text.SetLabel(label);
+    text.SetHorzJustify(h);
+    text.SetVertJustify(v);
+    text.SetVertHeight(12.0f);
+    text.SetPoint({100, 200});
+    return text;
+}
+
+TEST(ContextText, JustificationStartsTheTextInCells) {
+    PlainTarget target;
+    CZvDispText text;
+    // Cells of 12 / 6 = 2 units: 'c' of 3 characters (2 - 18) / 2 = -8 cells, 'a' -2 cells.
+    CZvDispPoint start = target.GetTextPostion(Place(text, "ABC", 'c', 'a'));
+    EXPECT_EQ(start.GetX(), 84.0);
+    EXPECT_EQ(start.GetY(), 196.0);
+    start = target.GetTextPostion(Place(text, "ABC", 'r', 'b'));
+    EXPECT_EQ(start.GetX(), 68.0);
+    EXPECT_EQ(start.GetY(), 184.0);
+    start = target.GetTextPostion(Place(text, "ABC", 'l', 'o'));
+    EXPECT_EQ(start.GetX(), 100.0);
+    EXPECT_EQ(start.GetY(), 190.0);
+    start = target.GetTextPostion(Place(text, "ABC", 'x', 'x'));
+    EXPECT_EQ(start.GetX(), 100.0);
+    EXPECT_EQ(start.GetY(), 200.0);
+    EXPECT_EQ(start.GetZ(), 0.0);
+    EXPECT_TRUE(start.GetDown());
+}
+
+TEST(ContextText, OutlineFontsAreThreeQuartersAsWideAndADegreeTurnsTheStart) {
+    PlainTarget target;
+    target.strokeFont = false;
+    CZvDispText text;
+    Place(text, "ABC", 'c', 'a');
+    EXPECT_EQ(target.GetTextPostion(text).GetX(), 88.0); // -8 x 9 / 6
+    text.SetDegree(90.0);                                // (-12, -4) turns to (4, -12)
+    EXPECT_DOUBLE_EQ(target.GetTextPostion(text).GetX(), 104.0);
+    EXPECT_DOUBLE_EQ(target.GetTextPostion(text).GetY(), 188.0);
+    target.SetIsOpenGL(true);
+    EXPECT_EQ(target.GetTextPostion(text).GetX(), -12.0) << "the matrix stack does the rest";
+    EXPECT_EQ(target.GetTextPostion(text).GetY(), -4.0);
+}
+
+TEST(ContextText, StrokesReachTheTargetAsLines) {
+    PlainTarget target;
+    CZvDispText text;
+    Place(text, ".", 'l', 'x');
+    text.SetVertHeight(5.0f); // the pen's size is 5 + 1: a cell unit is one map unit
+    target.DrawDispItem(&text);
+    ASSERT_EQ(target.shapes.size(), 1u);
+    const auto& dot = target.shapes[0];
+    ASSERT_EQ(dot.size(), 2u);
+    EXPECT_EQ(dot[0].GetX(), 101.0);
+    EXPECT_EQ(dot[0].GetY(), 202.0);
+    EXPECT_EQ(dot[1].GetX(), 102.0);
+    EXPECT_EQ(dot[1].GetY(), 202.0);
+}
+
+TEST(ContextText, TheNextCharacterStandsACellFurtherAndTurnsWithTheText) {
+    PlainTarget target;
+    CZvDispText text;
+    Place(text, "..", 'l', 'x');
+    text.SetVertHeight(5.0f);
+    text.SetDegree(90.0);
+    target.DrawDispItem(&text);
+    ASSERT_EQ(target.shapes.size(), 2u);
+    EXPECT_NEAR(target.shapes[1][0].GetX(), 98.0, 1e-6); // (7, 2) turned: (-2, 7)
+    EXPECT_NEAR(target.shapes[1][0].GetY(), 207.0, 1e-6);
+}
+
+TEST(ContextText, ATabHasItsOwnRowAndABytePast127DrawsNothing) {
+    PlainTarget target;
+    CZvDispText text;
+    target.DrawDispItem(&Place(text, "\t", 'l', 'x'));
+    EXPECT_FALSE(target.shapes.empty());
+    target.shapes.clear();
+    target.DrawDispItem(&Place(text, "\xb0\xff", 'l', 'x'));
+    EXPECT_TRUE(target.shapes.empty());
+    target.DrawDispItem(&Place(text, "\xb0.", 'l', 'x'));
+    text.SetVertHeight(5.0f);
+    EXPECT_EQ(target.shapes.at(0)[0].GetX(), 100.0 + 13.0 / 6.0) << "and advances nothing";
+}
+
+TEST(ContextText, TheFramesOwnTextBodyScalesALaterTextTwice) {
+    struct Frame : PlainTarget {
+        void DrawText(CZvDispText& text) override { CZvDisplayContext::DrawText(text); }
+    };
+    Frame target;
+    CZvDispText text;
+    Place(text, ".", 'l', 'x');
+    text.SetVertHeight(11.0f); // size 12: scale 2 on moves that are doubled already
+    target.DrawDispItem(&text);
+    EXPECT_EQ(target.shapes.at(0)[0].GetX(), 104.0);
+}
+
+TEST(ContextPlacement, OutsideASymbolAVertexStandsAsItIs) {
+    PlainTarget target;
+    double x = 0, y = 0;
+    target.placeX = 50;
+    target.GetXYPos(1, 2, &x, &y, false);
+    EXPECT_EQ(x, 1.0);
+    EXPECT_EQ(y, 2.0);
+    target.inSymbol = true;
+    target.placeY = 60;
+    target.placeScale = 3;
+    target.placeRotate = 90;
+    target.GetXYPos(1, 2, &x, &y, false); // (1, 2) turns to (-2, 1)
+    EXPECT_EQ(x, 44.0);
+    EXPECT_EQ(y, 63.0);
+    target.GetXYPos(1, 2, &x, &y, true);
+    EXPECT_EQ(x, 53.0);
+    EXPECT_EQ(y, 66.0);
+    target.placeRotate = -270;
+    target.GetXYPos(1, 2, &x, &y, false);
+    EXPECT_EQ(x, 44.0);
+}
+
+TEST(ContextClip, WithoutItsFlagEverythingPasses) {
+    PlainTarget target;
+    target.boundPolygon = {{0, 0}, {0, 10}, {10, 10}, {10, 0}};
+    CZvDispText text;
+    text.SetPoint({20, 5});
+    EXPECT_TRUE(target.ClipText(text));
+    EXPECT_FALSE(target.IsInsideFinalBorder({20, 5}));
+    EXPECT_TRUE(target.IsInsideFinalBorder({10, 5})) << "on the outline";
+    target.clipOn = true;
+    EXPECT_FALSE(target.ClipText(text));
+    text.SetPoint({5, 5});
+    EXPECT_TRUE(target.ClipText(text));
+}
+
+TEST(ContextClip, ACopiedTextIsPlacedInItsSymbol) {
+    PlainTarget target;
+    CZvDispText from, to;
+    from.SetLabel("T");
+    from.SetPoint({1, 2, 9});
+    target.inSymbol = true;
+    target.placeX = 10;
+    target.placeScale = 2;
+    EXPECT_TRUE(target.CopyTextItem(&from, &to));
+    EXPECT_EQ(to.GetLabel(), "T");
+    EXPECT_EQ(to.GetPoint().GetX(), 12.0);
+    EXPECT_EQ(to.GetPoint().GetY(), 4.0);
+    EXPECT_EQ(to.GetPoint().GetZ(), 9.0);
+}
+
+TEST(ContextLog, PointErrorsNameKindPlaceAndCoordinates) {
+    LogLines log;
+    PlainTarget target;
+    const int layer = 25, post = 1, uset = 2, culture = 220;
+    target.WriteTagInfo(1, &layer);
+    target.WriteTagInfo(2, &post);
+    target.WriteTagInfo(3, &uset);
+    target.WriteTagInfo(4, &culture);
+    target.LogError(11, 1.5, -2.0, "");
+    target.LogError(16, 1.5, -2.0, "A 1");
+    target.LogError(17, 1.5, -2.0, "");
+    target.LogError(99, 1.5, -2.0, "A 1");
+    ASSERT_EQ(log.Get().size(), 4u);
+    EXPECT_EQ(
+        log.Get()[0].text,
+        "Point Error, C_POLYLINE_ATTR, eLayer=25,eCul=220,ePost=1,eUset=2,X=1.500000,Y=-2.000000");
+    EXPECT_EQ(log.Get()[0].level, 103);
+    EXPECT_EQ(log.Get()[1].text, "Point Error, C_TEXT_ATTR, eLayer=25,eCul=220,ePost=1,eUset=2,"
+                                 "X=1.500000,Y=-2.000000,\"A 1\"");
+    EXPECT_EQ(log.Get()[2].text.substr(0, 29), "Point Error, C_SQUARE_ATTR, e");
+    EXPECT_EQ(log.Get()[3].text, "");
+    target.boundPolygon = {{0, 0}, {0, 10}, {10, 10}, {10, 0}};
+    target.LogError(11, 50, 50, "");
+    EXPECT_EQ(log.Get().size(), 4u) << "a point outside the final border is expected";
+}
+
+TEST(ContextFileName, ForbiddenCharactersBecomeUnderlines) {
+    LogLines log;
+    PlainTarget target;
+    std::string name = "a/b\\c:d*e?f\"g<h>i|j";
+    EXPECT_EQ(target.ValidateStringAsFileName(name), 9);
+    EXPECT_EQ(name, "a_b_c_d_e_f_g_h_i_j");
+    ASSERT_EQ(log.Get().size(), 1u);
+    EXPECT_EQ(
+        log.Get()[0],
+        (LogLines::Line{"Export - Illegal charactors found in file name and replaced with '_'.",
+                        101, false}));
+    std::string good = "plain name";
+    EXPECT_EQ(target.ValidateStringAsFileName(good), 0);
+    EXPECT_EQ(log.Get().size(), 1u);
+}
+
+TEST(ContextFileName, TheTailNamesPostAndDataset) {
+    LogLines log;
+    PlainTarget target;
+    EXPECT_EQ(target.BuildExportFileMoniker(nullptr, 1, 1, 1, 1), "");
+    EXPECT_EQ(target.BuildExportFileMoniker(nullptr, 2, 2, 1, 1), "_Post#2");
+    EXPECT_EQ(target.BuildExportFileMoniker(nullptr, 2, 2, 3, 1), "_Post#2_Dataset#1");
+    CZvSettings settings;
+    EXPECT_EQ(target.BuildExportFileMoniker(&settings, 1, 1, 2, 1), "_Dataset#1");
+    settings.SetString("Post#1\\USET#1\\QUAL_NAME", "A/B");
+    EXPECT_TRUE(log.Get().empty());
+    EXPECT_EQ(target.BuildExportFileMoniker(&settings, 1, 1, 1, 1), "_A_B");
+    EXPECT_EQ(log.Get().size(), 1u);
+}
+
+TEST(ContextFrame, CopiesTakeEveryMember) {
+    PlainTarget from;
+    from.boundPolygon = {{0, 0}, {1, 1}};
+    from.layer = 77;
+    from.SetSkewAngle(12.0);
+    from.SetIsOpenGL(true);
+    PlainTarget copy(from);
+    EXPECT_EQ(copy.layer, 77);
+    EXPECT_EQ(copy.boundPolygon.size(), 2u);
+    EXPECT_TRUE(copy.GetIsOpenGL());
+    PlainTarget assigned;
+    assigned = from;
+    EXPECT_EQ(assigned.layer, 77);
+}
+
+} // namespace
