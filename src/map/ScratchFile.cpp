@@ -1,0 +1,125 @@
+#include "map/ScratchFile.h"
+
+#include <algorithm>
+#include <cerrno>
+
+#include "platform/win/Files.h"
+
+namespace zv {
+
+namespace {
+
+constexpr std::uint64_t kWriteSize = 256 * 1024;
+
+/// The open files of the process, the one used last in front.
+std::list<ScratchFile*>& Pool() {
+    static std::list<ScratchFile*> pool;
+    return pool;
+}
+
+bool NoMoreHandles(int error) {
+    return error == EMFILE || error == ENFILE;
+}
+
+} // namespace
+
+ScratchFile::~ScratchFile() {
+    Close();
+}
+
+void ScratchFile::SetName(const std::string& name) {
+    if (name == m_name) return;
+    Close();
+    m_name = name;
+    m_native.clear();
+}
+
+bool ScratchFile::IsOpen() {
+    std::error_code error;
+    if (m_file && !std::filesystem::exists(m_native, error)) CloseHandle();
+    return m_file != nullptr;
+}
+
+bool ScratchFile::OpenForWrite() {
+    if (!Ensure(true)) return false;
+    m_made = true;
+    return true;
+}
+
+// Gives the file a handle. One handle serves both ways: each transfer seeks first.
+bool ScratchFile::Ensure(bool create) {
+    if (m_file) {
+        Pool().splice(Pool().begin(), Pool(), m_inPool);
+        return true;
+    }
+    if (create && !m_made) {
+        m_file = OpenHandle("w+b");
+        m_written = 0;
+    } else {
+        m_file = OpenHandle("r+b");
+        if (!m_file && create && errno == ENOENT) m_file = OpenHandle("w+b");
+    }
+    if (!m_file) return false;
+    std::setvbuf(m_file, nullptr, _IONBF, 0);
+    m_native = NativePath(m_name);
+    m_inPool = Pool().insert(Pool().begin(), this);
+    return true;
+}
+
+std::FILE* ScratchFile::OpenHandle(const char* mode) {
+    while (Pool().size() >= kOpenFiles)
+        Pool().back()->CloseHandle();
+    for (;;) {
+        std::FILE* const file = OpenFile(m_name, mode);
+        if (file || !NoMoreHandles(errno) || Pool().empty()) return file;
+        Pool().back()->CloseHandle();
+    }
+}
+
+// Pending bytes that cannot be written now stay pending: their own list shall hear of it.
+void ScratchFile::CloseHandle() {
+    if (!m_file) return;
+    if (m_pending.Size() && WriteAt(m_written, m_pending.Bytes())) {
+        m_written += m_pending.Size();
+        m_pending.Release();
+    }
+    std::fclose(m_file);
+    m_file = nullptr;
+    Pool().erase(m_inPool);
+}
+
+bool ScratchFile::Close() {
+    const bool written = m_pending.Size() == 0 || Flush();
+    CloseHandle();
+    return written;
+}
+
+bool ScratchFile::Commit() {
+    const std::uint64_t enough = std::min(kWriteSize, m_written);
+    return m_pending.Size() < std::max<std::uint64_t>(enough, 1) || Flush();
+}
+
+bool ScratchFile::Flush() {
+    if (m_pending.Size() == 0) return true;
+    const bool written = Ensure(true) && WriteAt(m_written, m_pending.Bytes());
+    if (written) m_written += m_pending.Size();
+    m_pending.Truncate(0);
+    if (!written) m_pending.Release();
+    return written;
+}
+
+bool ScratchFile::Overwrite(std::uint64_t offset, std::span<const char> bytes) {
+    return Ensure(false) && WriteAt(offset, bytes);
+}
+
+bool ScratchFile::WriteAt(std::uint64_t offset, std::span<const char> bytes) {
+    return fseeko(m_file, static_cast<off_t>(offset), SEEK_SET) == 0 &&
+           std::fwrite(bytes.data(), 1, bytes.size(), m_file) == bytes.size();
+}
+
+std::size_t ScratchFile::ReadAt(std::uint64_t offset, char* to, std::size_t size) {
+    if (!Ensure(false) || fseeko(m_file, static_cast<off_t>(offset), SEEK_SET) != 0) return 0;
+    return std::fread(to, 1, size, m_file);
+}
+
+} // namespace zv
