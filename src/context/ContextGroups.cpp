@@ -2,9 +2,8 @@
 #include <vector>
 
 #include "context/ZvDisplayContext.h"
-#include "platform/Numbers.h"
+#include "items/SymbolTable.h"
 #include "platform/wgl/MatrixScope.h"
-#include "platform/zvlogs/ZvLog.h"
 
 /// Groups and symbols: items that draw through their members.
 
@@ -93,8 +92,7 @@ class InstanceLook {
 bool CZvDisplayContext::CTXDrawSymbol(CZvDispSymbols& symbol) {
     std::list<CZvDisplayItem*>* members = CZvDispSymbols::S_GetItemList(symbol.GetSymbolNum());
     if (!members) {
-        CZvLog::Output("Symbol " + zv::FormatInt(symbol.GetSymbolNum()) + " not found. skipped.",
-                       101, false);
+        zv::LogSymbolNotFound(symbol.GetSymbolNum());
         return false;
     }
     InstanceLook look(symbol, *members);

@@ -19,4 +19,14 @@ inline bool IsKnownStep(unsigned char code) {
     return code == 'd' || code == 'f' || code == 'v' || code == 'r' || code == 'm';
 }
 
+/// The edit step of circles and arcs: the item is erased before it is coded, and a move shifts its
+/// centre. False when the step ends without the base's.
+template<class Item>
+bool UpdateCentered(Item& item, CZvDispPoint& center, const T_ZV_STRUC_UPDATE& update) {
+    item.Erase(update.context);
+    item.SetCustomCode(update.code);
+    if (update.code == 'm') MoveBy(center, update);
+    return IsKnownStep(update.code);
+}
+
 } // namespace zv

@@ -70,6 +70,18 @@ void CZvDispSymbols::S_BuildMidLine(double size, double charSize, int count, dou
     point = center;
 }
 
+void CZvDispSymbols::S_BuildSymbol(int first, int second, bool rule, double scale, double size,
+                                   double charSize, int count, double angle, CZvDispPoint start,
+                                   const CZvDispPoint& position, std::list<CZvDisplayItem*>* list) {
+    const double length = (count + size * 0.4) * charSize;
+    CZvDispPoint end(start.GetX() - (charSize * 0.4 + charSize) - length, start.GetY());
+    CZvUtilGeo::RotatePoint(start, position, angle);
+    CZvUtilGeo::RotatePoint(end, position, angle);
+    list->push_back(EndSymbol(start, first, angle, scale));
+    S_BuildMidLine(size, charSize, count, angle, start, list, rule);
+    list->push_back(EndSymbol(end, second, angle, scale));
+}
+
 std::list<CZvDisplayItem*>* CZvDispSymbols::S_BuildLineNumberSymbol(int kind, int a, int b,
                                                                     double size, double charSize,
                                                                     int count, double angle,
@@ -77,18 +89,10 @@ std::list<CZvDisplayItem*>* CZvDispSymbols::S_BuildLineNumberSymbol(int kind, in
                                                                     int side, int c) {
     if (kind < 1 || kind > static_cast<int>(kEnds.size())) return nullptr;
     const Ends& ends = kEnds[static_cast<std::size_t>(kind - 1)];
-    const double turn = S_GetRotationAngle(angle, side);
-    const double scale = S_ConvertToXY(a, c, size * 1.4) / b;
-    const double length = (count + size * 0.4) * charSize;
-    CZvDispPoint first = position;
-    first.SetX(position.GetX() - ((size * 0.4 + charSize) * 0.5 + charSize));
-    CZvDispPoint second(first.GetX() - (charSize * 0.4 + charSize) - length, first.GetY());
-    CZvUtilGeo::RotatePoint(first, position, turn);
-    CZvUtilGeo::RotatePoint(second, position, turn);
-
+    CZvDispPoint start = position;
+    start.SetX(position.GetX() - ((size * 0.4 + charSize) * 0.5 + charSize));
     auto list = std::make_unique<std::list<CZvDisplayItem*>>();
-    list->push_back(EndSymbol(first, ends.first, turn, scale));
-    S_BuildMidLine(size, charSize, count, turn, first, list.get(), ends.rule);
-    list->push_back(EndSymbol(second, ends.second, turn, scale));
+    S_BuildSymbol(ends.first, ends.second, ends.rule, S_ConvertToXY(a, c, size * 1.4) / b, size,
+                  charSize, count, S_GetRotationAngle(angle, side), start, position, list.get());
     return list.release();
 }

@@ -1,6 +1,7 @@
 #include "items/SymbolFiles.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <fstream>
 #include <vector>
 
@@ -15,14 +16,15 @@
 
 namespace {
 
-const std::string kAllNumbers = "-1";
+constexpr const char* kAllNumbers = "-1";
 constexpr const char* kTemplateFolder = "\\Template\\";
 
 /// What was loaded, so that no file is loaded twice, and whether the sequence has run.
 struct Loaded {
     std::vector<std::string> files;
     bool sequenceRan = false;
-    unsigned registry = 0;
+    unsigned registry = 0; // generation that the two folders were read at
+    std::string home, work;
 };
 
 Loaded& TheLoaded() {
@@ -107,8 +109,15 @@ void ForgetLoadedSymbolFiles() {
 void LoadSymbolFilesOnce() {
     Loaded& loaded = TheLoaded();
     if (loaded.sequenceRan && loaded.registry == CZvUtRegistry::S_GetGeneration()) return;
+    const std::string home = SymbolHomePath(), work = WorkPath();
+    const bool moved = loaded.sequenceRan && (home != loaded.home || work != loaded.work);
+    if (moved) CZvDispSymbols::S_ClearSymbolsMap();
+    const bool stands = loaded.sequenceRan;
     loaded.sequenceRan = true;
     loaded.registry = CZvUtRegistry::S_GetGeneration();
+    loaded.home = home;
+    loaded.work = work;
+    if (stands) return;
     for (const char* file : {"welsym.tab", "shotsym.tab", "master.sym"})
         CZvDispSymbols::S_LoadSymbols(file, kAllNumbers, false, "", false);
     CZvDispSymbols::S_LoadSymbols(CZvDispSymbols::S_GetGlobalSymFilePath(), kAllNumbers, true, "",
@@ -132,7 +141,7 @@ bool CZvDispSymbols::S_LoadSymbols(std::string file, const std::string& number, 
     }
     if (number == kAllNumbers) files.push_back(path);
     std::ifstream in(zv::NativePath(path), std::ios::binary);
-    if (!in) {
+    if (!in || std::filesystem::is_directory(zv::NativePath(path))) {
         if (!IsOptional(file))
             AfxMessageBox("Could not open symbol file:\n" + path +
                           "\nSymbols will not display properly.");

@@ -14,7 +14,11 @@ constexpr std::size_t kName = 6, kUnused = 11, kNumber = 3;
 
 /// Next line without its end, CR LF or LF; false at the end of the file, which 0x1A marks too.
 bool NextLine(std::istream& in, std::string& line) {
-    if (in.peek() == 0x1a || !std::getline(in, line)) return false;
+    if (!std::getline(in, line)) return false;
+    if (const std::size_t end = line.find('\x1a'); end != std::string::npos) {
+        line.resize(end);
+        in.setstate(std::ios::eofbit);
+    }
     if (line.ends_with('\r')) line.pop_back();
     return true;
 }
@@ -57,6 +61,7 @@ void CZvDispSymbolMap::Load() {
 }
 
 std::optional<int> CZvDispSymbolMap::Find(const std::string& name) {
+    zv::LoadSymbolFilesOnce(); // empties this too when the folders have moved
     if (!m_loaded) Load();
     const auto found = m_names.find(name);
     if (found == m_names.end()) return std::nullopt;

@@ -3,11 +3,17 @@
 #include <algorithm>
 
 #include "items/ZvDisplayItem.h"
+#include "platform/Numbers.h"
+#include "platform/zvlogs/ZvLog.h"
 
 void zv::FreeItemList::operator()(std::list<CZvDisplayItem*>* items) const {
     for (CZvDisplayItem* item : *items)
         delete item;
     delete items;
+}
+
+void zv::LogSymbolNotFound(int number) {
+    CZvLog::Output("Symbol " + FormatInt(number) + " not found. skipped.", 101, false);
 }
 
 CZvDispSymbolTable& CZvDispSymbolTable::Get() {

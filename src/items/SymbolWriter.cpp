@@ -1,5 +1,6 @@
 #include <sstream>
 
+#include "items/AttributeScope.h"
 #include "items/SymbolTable.h"
 #include "items/ZvDispSymbols.h"
 #include "persist/DrawingFormat.h"
@@ -18,25 +19,27 @@ namespace {
 using namespace zv;
 
 void WriteVariableText(CZvDisplayItem& item, CZvDispFileParam& file) {
-    const ZVColor color = item.GetColor();
-    const unsigned char width = item.GetLineWidth(), type = item.GetLineType();
+    AttributeScope own(item);
     item.DrwConvertToUnix();
     static_cast<CZvDispText&>(item).WriteVarTextToFile(file);
-    item.SetColor(color, 0);
-    item.SetLineWidth(width, 0);
-    item.SetLineType(type, 0);
 }
 
 void WriteDescription(DrawingWriter& out, int number, const std::string& description) {
     const std::string text = FitCharacters(description, "Symbol description");
-    out.ShortHead("CTX:", number, drw::kDescription);
-    out.Int("NUM:", static_cast<int>(text.size()), drw::kCount).Blanks(65).EndLine();
-    out.Characters(text);
+    out.Text("CTX:").Int("", number, drw::kSymbolField);
+    out.Int("", drw::kDescription, drw::kCodeField).CountedLine(text);
 }
 
 void WriteOne(int number, CZvDispFileParam& file) {
     file.SetSymbolNum(number);
     CZvDispSymbols(CZvDispPoint(), number).DrwWrite(file);
+}
+
+void WriteNamed(const std::string& number, CZvDispFileParam& file) {
+    if (CZvDispSymbolTable::Get().Has(ParseInt(number))) return WriteOne(ParseInt(number), file);
+    CZvLog::Output("Symbol number " + number +
+                       " has been removed from the memory and won't be saved to the file",
+                   101, false);
 }
 
 } // namespace
@@ -53,7 +56,8 @@ void CZvDispSymbols::V_WriteToFile(CZvDispFileParam& file) {
             WriteVariableText(*text, file);
     std::string description;
     if (S_GetSymDesc(m_number, description)) WriteDescription(out, m_number, description);
-    out.ShortHead("EOF:", m_number, drw::kEnd).Blanks(71).EndLine();
+    out.Text("EOF:").Int("", m_number, drw::kSymbolField);
+    out.Int("", drw::kEnd, drw::kCodeField).Blanks(drw::kEndBlanks).EndLine();
 }
 
 void CZvDispSymbols::S_WriteSymbolsToFile(const std::string& path,
@@ -62,22 +66,17 @@ void CZvDispSymbols::S_WriteSymbolsToFile(const std::string& path,
     CZvDispFileParam file;
     file.SetSymbol(true);
     file.SetOutFile(&out);
-    if (all)
+    if (all) {
         for (const int number : CZvDispSymbolTable::Get().Ascending())
             WriteOne(number, file);
-    else
+    } else {
         for (const std::string& number : numbers)
-            if (CZvDispSymbolTable::Get().Has(zv::ParseInt(number)))
-                WriteOne(zv::ParseInt(number), file);
-            else
-                CZvLog::Output(
-                    "Symbol number " + number +
-                        " has been removed from the memory and won't be saved to the file",
-                    101, false);
+            WriteNamed(number, file);
+    }
     try {
         zv::WriteFileAtomically(path, out.str());
     } catch (const zv::DataError& error) {
-        CZvLog::Output(error.what(), 101, false);
+        CZvLog::Output(error.what(), 103, false);
     }
     SetCursor(LoadCursor(nullptr, IDC_ARROW));
 }

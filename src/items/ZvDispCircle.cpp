@@ -45,10 +45,5 @@ void CZvDispCircle::V_Rotate(const CZvDispPoint& origin, double degrees) {
 }
 
 void CZvDispCircle::V_Update(const void* record) {
-    const T_ZV_STRUC_UPDATE& update = zv::AsUpdate(record);
-    Erase(update.context);
-    SetCustomCode(update.code);
-    if (!zv::IsKnownStep(update.code)) return;
-    if (update.code == 'm') zv::MoveBy(m_center, update);
-    CZvDisplayItem::V_Update(record);
+    if (zv::UpdateCentered(*this, m_center, zv::AsUpdate(record))) CZvDisplayItem::V_Update(record);
 }

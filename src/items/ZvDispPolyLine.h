@@ -9,6 +9,7 @@ class ZVDISP_API CZvDispPolyLine : public CZvDisplayItem {
   public:
     CZvDispPolyLine() = default;
     explicit CZvDispPolyLine(const std::vector<CZvDispPoint>& vertices);
+    CZvDispPolyLine(const CZvDispPolyLine&) = delete;
     CZvDispPolyLine& operator=(const CZvDispPolyLine& other);
 
     void V_Rotate(const CZvDispPoint& origin, double degrees) override;
@@ -37,8 +38,6 @@ class ZVDISP_API CZvDispPolyLine : public CZvDisplayItem {
     void ClearVerticesVector() { m_vertices.clear(); }
 
   protected:
-    /// For copies that begin empty.
-    CZvDispPolyLine(const CZvDispPolyLine&) : CZvDisplayItem() {}
     /// The vertices as scratch records hold them: a count and four arrays.
     void DispOut(const std::vector<CZvDispPoint>& vertices);
     void DispIn(std::vector<CZvDispPoint>& vertices);

@@ -6,10 +6,8 @@
 #include "items/SymbolFiles.h"
 #include "items/SymbolMap.h"
 #include "items/SymbolTable.h"
-#include "platform/Numbers.h"
 #include "platform/wgl/XorScope.h"
 #include "platform/zvcom/ZvUtilGeo.h"
-#include "platform/zvlogs/ZvLog.h"
 
 CZvDispSymbols::CZvDispSymbols() {
     zv::LoadSymbolFilesOnce();
@@ -64,12 +62,6 @@ void CZvDispSymbols::SetSymbolNum(const std::string& name) {
     constexpr int kUnknownName = 68;
     m_number = CZvDispSymbolMap::Get().Find(name).value_or(kUnknownName);
 }
-
-namespace zv {
-void LogSymbolNotFound(int number) {
-    CZvLog::Output("Symbol " + FormatInt(number) + " not found. skipped.", 101, false);
-}
-} // namespace zv
 
 void CZvDispSymbols::Draw(CZvDisplayContext* const context) {
     if (!GetVisibility()) return;
@@ -157,9 +149,11 @@ int CZvDispSymbols::S_GetNextAvailableSymbolNum(int from, int to) {
 }
 
 int CZvDispSymbols::S_AddExternalSymbols(std::list<CZvDisplayItem*>* items, int number) {
-    CZvDispSymbolTable& table = CZvDispSymbolTable::Get();
-    table.Delete(number);
-    table.Add(number, zv::SymbolItems(items), nullptr, std::nullopt);
+    if (!items) items = new std::list<CZvDisplayItem*>;
+    if (items == S_GetItemList(number)) return number;
+    items->remove(nullptr);
+    S_DeleteSymbol(number);
+    CZvDispSymbolTable::Get().Add(number, zv::SymbolItems(items), nullptr, std::nullopt);
     return number;
 }
 

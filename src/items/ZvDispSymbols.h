@@ -93,6 +93,11 @@ class ZVDISP_API CZvDispSymbols : public CZvDisplayItem {
                                                                double angle, CZvDispPoint& position,
                                                                int side, int c);
     static double S_GetRotationAngle(double angle, int side);
+    /// The two ends, of the given numbers and scale, and the rules between them where `rule` is
+    /// set. `start` is the first end's place before the turn by `angle` about the position.
+    static void S_BuildSymbol(int first, int second, bool rule, double scale, double size,
+                              double charSize, int count, double angle, CZvDispPoint start,
+                              const CZvDispPoint& position, std::list<CZvDisplayItem*>* list);
     /// Rules between the ends of a line number. `point` is moved to their middle.
     static void S_BuildMidLine(double size, double charSize, int count, double angle,
                                CZvDispPoint& point, std::list<CZvDisplayItem*>* list, bool add);

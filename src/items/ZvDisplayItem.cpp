@@ -2,7 +2,8 @@
 
 #include "context/ZvDispGL.h"
 #include "context/ZvDisplayContext.h"
-#include "items/ZvUpdateRecord.h"
+#include "items/AttributeScope.h"
+#include "items/ItemUpdate.h"
 #include "platform/wgl/XorScope.h"
 
 CZvDisplayItem::CZvDisplayItem() = default;
@@ -107,7 +108,7 @@ void CZvDisplayItem::SetUseOffsetFlag(bool on) {
 }
 
 void CZvDisplayItem::Update(const void* record) {
-    CZvDispGL* context = static_cast<const T_ZV_STRUC_UPDATE*>(record)->context;
+    CZvDispGL* context = zv::AsUpdate(record).context;
     context->Start();
     V_Update(record);
     if (!m_visible) return;
@@ -117,27 +118,23 @@ void CZvDisplayItem::Update(const void* record) {
         m_color = ZV_COLOR_CODED;
     }
     context->DrawDispItem(this);
-    if (IsCoded()) SetColor(own, 0);
+    if (IsCoded()) m_color = own;
 }
 
 void CZvDisplayItem::V_Update(const void* record) {
-    const auto& update = *static_cast<const T_ZV_STRUC_UPDATE*>(record);
+    const T_ZV_STRUC_UPDATE& update = zv::AsUpdate(record);
     if (update.code != 'f' && update.code != 'v') return;
     if (!m_visible || !IsCoded()) return;
     const ZVColor own = m_color;
     if (IsMoved() || !IsRotated()) m_color = ZV_COLOR_CODED;
     update.context->DrawDispItem(this);
-    if (IsCoded()) SetColor(own, 0);
+    if (IsCoded()) m_color = own;
 }
 
 bool CZvDisplayItem::DrwWrite(CZvDispFileParam& file) {
-    const ZVColor color = GetColor();
-    const unsigned char width = GetLineWidth(), type = GetLineType();
+    zv::AttributeScope own(*this);
     DrwConvertToUnix();
     V_WriteToFile(file);
-    SetColor(color, 0);
-    SetLineWidth(width, 0);
-    SetLineType(type, 0);
     return true;
 }
 

@@ -41,13 +41,13 @@ int ReadRecords(std::istream& stream, Add&& add) {
     CZvDispFileParam file;
     file.SetInFile(&stream);
     int areas = 0;
-    for (std::string tag; in.Tag(tag);) {
+    while (in.Tag()) {
         const int code = in.Int(drw::kSymbolField, drw::kCodeField);
         const int layer = in.Int(0, drw::kLayerField);
         if (code == drw::kDescription) in.Skip(drw::kCountLine + drw::kCharacterLine);
         if (IsArea(code)) ++areas;
         if (!IsMapRecord(code)) continue;
-        if (code == drw::kText) in.Skip(12);
+        if (code == drw::kText) in.Skip(drw::kTextHeadBlanks);
         std::unique_ptr<CZvDisplayItem> item = MakeDrawingItem(code);
         item->ReadDrawingFile(file);
         add(std::move(item), layer, file);

@@ -1,4 +1,3 @@
-#include <algorithm>
 #include <memory>
 
 #include "items/ZvDispArc.h"
@@ -27,13 +26,6 @@ std::unique_ptr<CZvDisplayItem> MakeDrawingItem(int code) {
     }
 }
 
-int ReadDescription(DrawingReader& in, std::string& description) {
-    const int length = in.Int(0, drw::kCountLine);
-    description =
-        in.Chars(drw::kCharacterLine).substr(0, static_cast<std::size_t>(std::max(length, 0)));
-    return length;
-}
-
 namespace {
 
 bool RefuseFile() {
@@ -53,7 +45,7 @@ void ToZeroBased(std::list<CZvDisplayItem*>* items) {
 /// Characters between a record's code and the attributes that the item itself reads.
 int HeadRest(int code) {
     const bool text = code == drw::kText || code == drw::kVariableText;
-    return drw::kLayerField + (text ? 12 : 0);
+    return drw::kLayerField + (text ? drw::kTextHeadBlanks : 0);
 }
 
 } // namespace
@@ -64,8 +56,8 @@ bool CZvDisplayItem::S_ReadDrawingFile(std::list<CZvDisplayItem*>* items,
                                        CZvDispFileParam& file, std::string& description) {
     using namespace zv;
     DrawingReader in(*file.GetInFile());
-    for (std::string tag;;) {
-        in.Tag(tag);
+    for (;;) {
+        in.Tag();
         const int code = in.Int(drw::kSymbolField, drw::kCodeField);
         if (code == drw::kEnd) {
             ToZeroBased(items);
@@ -74,7 +66,7 @@ bool CZvDisplayItem::S_ReadDrawingFile(std::list<CZvDisplayItem*>* items,
         }
         if (code == drw::kDescription) {
             in.Skip(4);
-            ReadDescription(in, description);
+            description = in.CountedLine();
             continue;
         }
         std::unique_ptr<CZvDisplayItem> item = MakeDrawingItem(code);

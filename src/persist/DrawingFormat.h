@@ -12,23 +12,22 @@ enum Code : int {
     kArc = 1,
     kCircle = 2,
     kPolygon = 7,
-    kPolygonVertex = 8,
+    // 8: a polygon's further vertex
     kTriangle = 10,     // read only
     kTwoPointLine = 12, // read only
     kPolyline = 13,
-    kPolylineVertex = 14,
+    // 14: a polyline's further vertex
     kText = 18,
     kVariableText = 19,
     kEnd = 20,
     kCharacters = 22,
     kDescription = 23,
-    kFirstCode = kArc,
-    kLastCode = kDescription,
 };
 
 inline constexpr std::string_view kTailTag = "IB:POS:";
-inline constexpr std::string_view kPolygonVertexTag = "POL2:";
-inline constexpr std::string_view kPolylineVertexTag = "COV2:";
+// A line of a further vertex: its tag, and its code behind it.
+inline constexpr std::string_view kPolygonVertexTag = "POL2:", kPolygonVertexCode = "   8";
+inline constexpr std::string_view kPolylineVertexTag = "COV2:", kPolylineVertexCode = "  14";
 
 // Widths of fields.
 inline constexpr int kLine = 80;
@@ -39,19 +38,29 @@ inline constexpr int kRadius = 15;     // "%.5f"
 inline constexpr int kAngle = 9;       // "%.4f"
 inline constexpr int kHeight = 15;     // "%.5f"
 inline constexpr int kCount = 2;
-inline constexpr int kTail = 7 + kSmall + 4 + kSmall + 4 + kSmall;
 inline constexpr int kSymbolNumber = 4;
 
-// What a reader takes beyond a field, so that it stands at the next line.
-inline constexpr int kNewline = 1;
+// Blanks that fill a line up to 80 columns, on maps and in symbol definitions. An arc's second line
+// runs to 92 on maps.
 inline constexpr int kFirstLineBlanks = 20;  // behind X of arcs, circles and polygons
 inline constexpr int kLineVertexBlanks = 25; // behind X of polylines and Y of further vertices
-inline constexpr int kCultureOfArc = kSmall + kNewline;
-inline constexpr int kCultureOfCircle = kSmall + 14 + kNewline;
-inline constexpr int kCultureOfLine = kSmall + 33 + kNewline;
-inline constexpr int kCultureOfText = kSmall + 10 + kNewline;
+inline constexpr int kTriangleBlanks = 11;   // behind the second vertex
+inline constexpr int kArcBlanks = 0, kArcBlanksInSymbol = 12;
+inline constexpr int kCircleBlanks = 14, kCircleBlanksInSymbol = 38;
+inline constexpr int kLineBlanks = 33, kLineBlanksInSymbol = 57;
+inline constexpr int kTextBlanks = 10, kTextBlanksInSymbol = 34;
+inline constexpr int kTextHeadBlanks = 12, kTextStyleBlanks = 9;
+inline constexpr int kCountBlanks = 65, kEndBlanks = 71;
+
+// What a reader takes of the tail's culture field and of what follows it, so that it stands at the
+// next line.
+inline constexpr int kNewline = 1;
+inline constexpr int kCultureOfArc = kSmall + kArcBlanks + kNewline;
+inline constexpr int kCultureOfCircle = kSmall + kCircleBlanks + kNewline;
+inline constexpr int kCultureOfLine = kSmall + kLineBlanks + kNewline;
+inline constexpr int kCultureOfText = kSmall + kTextBlanks + kNewline;
 inline constexpr int kCultureOfTwoPointLine = kSmall;
-inline constexpr int kCountLine = kCount + 65 + kNewline;
+inline constexpr int kCountLine = kCount + kCountBlanks + kNewline;
 inline constexpr int kCharacterLine = kLine + kNewline;
 
 } // namespace zv::drw

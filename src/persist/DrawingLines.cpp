@@ -1,8 +1,6 @@
 #include "items/ZvDispPolygon.h"
-#include "persist/DrawingFormat.h"
-#include "persist/DrawingReader.h"
+#include "persist/DrawingStyle.h"
 #include "persist/DrawingTail.h"
-#include "persist/DrawingWriter.h"
 #include "persist/ZvDispFileParam.h"
 
 /// Polylines and polygons in drawing records: a record for the first vertex, a line for each
@@ -12,21 +10,18 @@ namespace {
 
 using namespace zv;
 
-void WriteStyle(DrawingWriter& out, CZvDisplayItem& item) {
-    out.Int("LW:", item.GetLineWidth(), drw::kSmall);
-    out.Int("LT:", item.GetLineType(), drw::kSmall);
-    out.Int("COL:", item.GetColor(), drw::kSmall);
-}
-
 void WriteFirstVertex(DrawingWriter& out, const CZvDispPoint& vertex, int blanks) {
     out.Coordinate("X:", vertex.GetX()).Blanks(blanks).EndLine();
-    out.Coordinate("Y:", vertex.GetY()).Tail(33, 57).EndLine();
+    out.Coordinate("Y:", vertex.GetY()).Tail(drw::kLineBlanks, drw::kLineBlanksInSymbol).EndLine();
 }
 
 void WriteFurtherVertices(DrawingWriter& out, const std::vector<CZvDispPoint>& vertices,
-                          std::string_view head) {
+                          std::string_view tag, std::string_view code) {
     for (std::size_t i = 1; i < vertices.size(); ++i) {
-        out.Text(head).Coordinate("X:", vertices[i].GetX()).Coordinate("Y:", vertices[i].GetY());
+        out.Text(tag)
+            .Text(code)
+            .Coordinate("X:", vertices[i].GetX())
+            .Coordinate("Y:", vertices[i].GetY());
         out.Blanks(drw::kLineVertexBlanks).EndLine();
     }
 }
@@ -37,12 +32,6 @@ int ReadCode(DrawingReader& in) {
     const int code = in.Int(0, drw::kCodeField);
     in.Skip(drw::kLayerField);
     return code;
-}
-
-void ReadStyle(DrawingReader& in, CZvDisplayItem& item) {
-    item.SetLineWidth(static_cast<unsigned char>(in.Int(3, drw::kSmall)), 0);
-    item.SetLineType(in.Int(3, drw::kSmall), 0);
-    item.SetColor(static_cast<ZVColor>(in.Int(4, drw::kSmall)), 0);
 }
 
 CZvDispPoint ReadVertex(DrawingReader& in, int xWidth, int yWidth) {
@@ -61,7 +50,7 @@ void ReadFurtherVertices(DrawingReader& in, CZvDispPolyLine& line, std::string_v
             in.Back(token.size());
             return;
         }
-        in.Skip(4); // the rest of the code field
+        in.Skip(static_cast<int>(drw::kPolylineVertexCode.size()));
         line.AddPoint(ReadVertex(in, drw::kCoordinate,
                                  drw::kCoordinate + drw::kLineVertexBlanks + drw::kNewline));
     }
@@ -75,7 +64,7 @@ void CZvDispPolyLine::V_WriteToFile(CZvDispFileParam& file) {
     out.Head("COV:", drw::kPolyline);
     WriteStyle(out, *this);
     WriteFirstVertex(out, m_vertices.front(), drw::kLineVertexBlanks);
-    WriteFurtherVertices(out, m_vertices, "COV2:  14");
+    WriteFurtherVertices(out, m_vertices, drw::kPolylineVertexTag, drw::kPolylineVertexCode);
 }
 
 void CZvDispPolyLine::V_ReadFromFile(CZvDispFileParam& file) {
@@ -101,9 +90,9 @@ void CZvDispPolygon::V_WriteToFile(CZvDispFileParam& file) {
     DrawingWriter out(file);
     out.Head("POL:", drw::kPolygon);
     WriteStyle(out, *this);
-    out.Char("FIL:", GetFill() ? 'T' : 'F');
+    WriteFill(out, *this);
     WriteFirstVertex(out, vertices.front(), drw::kFirstLineBlanks);
-    WriteFurtherVertices(out, vertices, "POL2:   8");
+    WriteFurtherVertices(out, vertices, drw::kPolygonVertexTag, drw::kPolygonVertexCode);
 }
 
 void CZvDispPolygon::V_ReadFromFile(CZvDispFileParam& file) {
@@ -116,7 +105,8 @@ void CZvDispPolygon::V_ReadFromFile(CZvDispFileParam& file) {
     if (code != drw::kPolygon && code != drw::kTriangle) return;
     AddPoint({x, in.Double(2, drw::kCoordinate)});
     if (code == drw::kTriangle) {
-        AddPoint(ReadVertex(in, drw::kCoordinate, drw::kCoordinate + 11 + drw::kNewline));
+        AddPoint(ReadVertex(in, drw::kCoordinate,
+                            drw::kCoordinate + drw::kTriangleBlanks + drw::kNewline));
         AddPoint(ReadVertex(in, drw::kCoordinate, drw::kCoordinate));
         AddPoint(GetPoint(0));
         ReadTail(in, file, drw::kCultureOfText);

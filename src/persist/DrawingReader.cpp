@@ -1,7 +1,9 @@
 #include "persist/DrawingReader.h"
 
+#include <algorithm>
 #include <streambuf>
 
+#include "persist/DrawingFormat.h"
 #include "platform/Numbers.h"
 
 namespace zv {
@@ -16,7 +18,12 @@ bool IsSpace(int c) {
 } // namespace
 
 int DrawingReader::Peek() {
-    const int c = m_in.good() ? m_in.rdbuf()->sgetc() : kEof;
+    int c = kEof;
+    try {
+        if (m_in.good()) c = m_in.rdbuf()->sgetc();
+    } catch (const std::ios_base::failure&) { // a folder, a disk that fails
+        m_in.setstate(std::ios::badbit);
+    }
     if (c != std::char_traits<char>::eof() && c != kFileEnd) return c;
     m_in.setstate(std::ios::eofbit);
     return kEof;
@@ -25,9 +32,9 @@ int DrawingReader::Peek() {
 int DrawingReader::Next() {
     const int c = Peek();
     if (c == kEof) return kEof;
-    std::streambuf& buffer = *m_in.rdbuf();
-    if (buffer.snextc() != '\n' || c != '\r') return c;
-    buffer.sbumpc();
+    m_in.rdbuf()->sbumpc();
+    if (c != '\r' || Peek() != '\n') return c;
+    m_in.rdbuf()->sbumpc();
     return '\n';
 }
 
@@ -43,8 +50,8 @@ std::string DrawingReader::Chars(int count) {
 }
 
 void DrawingReader::Skip(int count) {
-    for (int i = 0; i < count && Next() != kEof;)
-        ++i;
+    for (int i = 0; i < count; ++i)
+        if (Next() == kEof) return;
 }
 
 std::string DrawingReader::Token() {
@@ -74,15 +81,20 @@ std::string DrawingReader::CutAtColon(const std::string& token) {
     return colon == std::string::npos ? std::string() : Chars(static_cast<int>(colon) + 1);
 }
 
-bool DrawingReader::Tag(std::string& tag) {
+bool DrawingReader::Tag() {
     const std::string token = Token();
-    tag = CutAtColon(token);
+    CutAtColon(token);
     return !token.empty();
 }
 
 void DrawingReader::SkipLine() {
     for (int c = Next(); c != kEof && c != '\n';)
         c = Next();
+}
+
+std::string DrawingReader::CountedLine() {
+    const int count = Int(0, drw::kCountLine);
+    return Chars(drw::kCharacterLine).substr(0, static_cast<std::size_t>(std::max(count, 0)));
 }
 
 int DrawingReader::Int(int tag, int width) {

@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "items/ZvDispText.h"
 #include "persist/DrawingFormat.h"
 #include "persist/DrawingReader.h"
@@ -17,19 +15,18 @@ void WriteText(CZvDispText& text, CZvDispFileParam& file, std::string_view tag, 
     DrawingWriter out(file);
     const CZvDispPoint point = text.GetPoint();
     const std::string label = FitCharacters(text.Label(), "Label");
-    out.Head(tag, code).Blanks(12).Int("COL:", text.GetColor(), drw::kSmall);
+    out.Head(tag, code).Blanks(drw::kTextHeadBlanks).Int("COL:", text.GetColor(), drw::kSmall);
     out.Fixed("ANG:", text.GetDegree(), 4, drw::kAngle);
     out.Fixed("HT:", text.GetVertHeight(), 5, drw::kHeight);
-    out.Char("HJ:", text.GetHorzJustify()).Char("VJ:", text.GetVertJustify()).Blanks(9).EndLine();
-    out.Coordinate("X:", point.GetX()).Coordinate("Y:", point.GetY()).Tail(10, 34).EndLine();
-    out.Text("TXT:");
-    if (out.IsSymbol())
-        out.Int("", file.GetSymbolNum(), drw::kSymbolField);
-    else
-        out.Blanks(drw::kSymbolField);
-    out.Int("", drw::kCharacters, drw::kCodeField);
-    out.Int("NUM:", static_cast<int>(label.size()), drw::kCount).Blanks(65).EndLine();
-    out.Characters(label);
+    out.Char("HJ:", text.GetHorzJustify())
+        .Char("VJ:", text.GetVertJustify())
+        .Blanks(drw::kTextStyleBlanks)
+        .EndLine();
+    out.Coordinate("X:", point.GetX())
+        .Coordinate("Y:", point.GetY())
+        .Tail(drw::kTextBlanks, drw::kTextBlanksInSymbol)
+        .EndLine();
+    out.ShortHead("TXT:", drw::kCharacters).CountedLine(label);
 }
 
 } // namespace
@@ -51,12 +48,10 @@ void CZvDispText::V_ReadFromFile(CZvDispFileParam& file) {
     m_height = static_cast<float>(in.Double(3, drw::kHeight));
     m_horizontal = in.Char(3);
     m_vertical = in.Char(3);
-    in.Skip(9 + drw::kNewline);
+    in.Skip(drw::kTextStyleBlanks + drw::kNewline);
     m_point.SetX(in.Double(2, drw::kCoordinate));
     m_point.SetY(in.Double(2, drw::kCoordinate));
     ReadTail(in, file, drw::kCultureOfText);
     in.Skip(4 + drw::kSymbolField + drw::kCodeField + 4);
-    const int length = in.Int(0, drw::kCountLine);
-    m_label =
-        in.Chars(drw::kCharacterLine).substr(0, static_cast<std::size_t>(std::max(length, 0)));
+    m_label = in.CountedLine();
 }

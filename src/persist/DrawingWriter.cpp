@@ -23,19 +23,17 @@ DrawingWriter& DrawingWriter::Field(std::string_view text, int width) {
     return *this;
 }
 
-DrawingWriter& DrawingWriter::Head(std::string_view tag, int code) {
-    m_out << tag;
-    if (m_symbol)
-        Field(FormatInt(m_file.GetSymbolNum()), drw::kSymbolField);
-    else
-        Blanks(drw::kSymbolField);
-    Field(FormatInt(code), drw::kCodeField);
-    return Field(m_symbol ? "999" : FormatInt(m_file.GetLayerNum()), drw::kLayerField);
+DrawingWriter& DrawingWriter::SymbolField() {
+    return Field(m_symbol ? FormatInt(m_file.GetSymbolNum()) : "", drw::kSymbolField);
 }
 
-DrawingWriter& DrawingWriter::ShortHead(std::string_view tag, int symbol, int code) {
-    m_out << tag;
-    return Field(FormatInt(symbol), drw::kSymbolField).Field(FormatInt(code), drw::kCodeField);
+DrawingWriter& DrawingWriter::ShortHead(std::string_view tag, int code) {
+    return Text(tag).SymbolField().Field(FormatInt(code), drw::kCodeField);
+}
+
+DrawingWriter& DrawingWriter::Head(std::string_view tag, int code) {
+    ShortHead(tag, code);
+    return Field(m_symbol ? "999" : FormatInt(m_file.GetLayerNum()), drw::kLayerField);
 }
 
 DrawingWriter& DrawingWriter::Text(std::string_view text) {
@@ -75,7 +73,8 @@ DrawingWriter& DrawingWriter::Tail(int blanks, int blanksInSymbol) {
     return Blanks(blanks);
 }
 
-DrawingWriter& DrawingWriter::Characters(const std::string& text) {
+DrawingWriter& DrawingWriter::CountedLine(const std::string& text) {
+    Int("NUM:", static_cast<int>(text.size()), drw::kCount).Blanks(drw::kCountBlanks).EndLine();
     for (const char c : CZvDisplayItem::PadBlankToBack(text, drw::kLine))
         c == '\n' ? void(m_out << "\r\n") : void(m_out.put(c));
     return EndLine();
@@ -88,11 +87,11 @@ DrawingWriter& DrawingWriter::EndLine() {
 
 std::string FitCharacters(const std::string& text, std::string_view what) {
     std::string fit = text.substr(0, drw::kLine);
-    if (fit.size() < text.size())
-        CZvLog::Output(std::string(what) + " of " + FormatInt(static_cast<long long>(text.size())) +
-                           " characters cut to 80 in the drawing file: " + fit,
-                       101, false);
     std::replace(fit.begin(), fit.end(), kFileEnd, '?');
+    if (fit != text)
+        CZvLog::Output(std::string(what) + " of " + FormatInt(static_cast<long long>(text.size())) +
+                           " characters changed to fit the drawing file: " + fit,
+                       101, false);
     return fit;
 }
 

@@ -16,8 +16,8 @@ class DrawingWriter {
 
     /// Tag, symbol field, code and layer: the first 13 columns of a record.
     DrawingWriter& Head(std::string_view tag, int code);
-    /// Tag and symbol field and code alone, for records that belong to a symbol or a text.
-    DrawingWriter& ShortHead(std::string_view tag, int symbol, int code);
+    /// Tag, symbol field and code alone, for records that belong to a symbol or a text.
+    DrawingWriter& ShortHead(std::string_view tag, int code);
     DrawingWriter& Text(std::string_view text);
     DrawingWriter& Int(std::string_view tag, int value, int width);
     DrawingWriter& Fixed(std::string_view tag, double value, int decimals, int width);
@@ -26,12 +26,13 @@ class DrawingWriter {
     DrawingWriter& Blanks(int count);
     /// Post, user set and culture and then blanks; in symbol mode other blanks alone.
     DrawingWriter& Tail(int blanks, int blanksInSymbol);
-    /// A line of characters that fit, padded to 80 columns, and the line end.
-    DrawingWriter& Characters(const std::string& text);
+    /// "NUM:" with the length of a text, and the text on a line of its own. REQUIRES: the text
+    /// fits.
+    DrawingWriter& CountedLine(const std::string& text);
     DrawingWriter& EndLine();
-    bool IsSymbol() const { return m_symbol; }
 
   private:
+    DrawingWriter& SymbolField();
     DrawingWriter& Field(std::string_view text, int width);
 
     const CZvDispFileParam& m_file;

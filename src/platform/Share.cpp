@@ -1,5 +1,7 @@
 #include "platform/Share.h"
 
+#include <dlfcn.h>
+
 #include <cerrno>
 #include <cstdio>
 #include <cstdlib>
@@ -29,6 +31,25 @@ bool IsFolder(const fs::path& path) {
     return !path.empty() && fs::is_directory(path, ignored);
 }
 
+/// File of the library, or of the program that it was linked into.
+fs::path OwnFile() {
+    Dl_info info{};
+    if (!dladdr(reinterpret_cast<void*>(&ShareFolder), &info) || !info.dli_fname) return {};
+    std::error_code error;
+    fs::path file = fs::canonical(info.dli_fname, error);
+    return error ? fs::path() : file;
+}
+
+/// "share/zvdisp" beside one of the folders above the library: an installed tree can be moved, and
+/// one that is being worked on is never mixed up with an installed one.
+fs::path BesideOwnFile() {
+    constexpr int kLevels = 4; // <prefix>/lib/<machine>/libzvdisp.so
+    fs::path folder = OwnFile().parent_path();
+    for (int i = 0; i < kLevels && !folder.empty(); ++i, folder = folder.parent_path())
+        if (const fs::path share = folder / "share" / "zvdisp"; IsFolder(share)) return share;
+    return {};
+}
+
 struct CloseStream {
     void operator()(std::FILE* stream) const { std::fclose(stream); }
 };
@@ -48,6 +69,8 @@ void RequireRegularFile(const fs::path& path) {
 
 fs::path ShareFolder() {
     if (fs::path folder = FromEnvironment("ZVDISP_SHARE"); !folder.empty()) return folder;
+    static const fs::path beside = BesideOwnFile();
+    if (!beside.empty()) return beside;
     if (fs::path folder = ZVDISP_INSTALL_SHARE; IsFolder(folder)) return folder;
     return ZVDISP_SOURCE_SHARE;
 }
