@@ -1,5 +1,3 @@
-#include <algorithm>
-
 #include "context/ZvDisplayContext.h"
 #include "platform/Numbers.h"
 #include "platform/zvlogs/ZvLog.h"

@@ -7,16 +7,57 @@
 
 /// Groups and symbols: items that draw through their members.
 
+namespace {
+
+/// Lends a colour to an item, and to all that it is made of when it is a group; every one has its
+/// own again at the end.
+class LentColor {
+  public:
+    LentColor(CZvDisplayItem& item, ZVColor color) {
+        Remember(item);
+        item.SetColor(color, 0);
+    }
+    ~LentColor() {
+        for (const auto& [item, color] : m_own)
+            item->SetColor(color, 0);
+    }
+    LentColor(const LentColor&) = delete;
+    LentColor& operator=(const LentColor&) = delete;
+
+  private:
+    /// A group before its members: its setter reaches some of them.
+    void Remember(CZvDisplayItem& item) {
+        m_own.emplace_back(&item, item.GetColor());
+        if (item.GetDispType() != ZV_DISP_GROUP) return;
+        for (CZvDisplayItem* member : *static_cast<CZvDispGroup&>(item).GetGroupList())
+            if (member) Remember(*member);
+    }
+
+    std::vector<std::pair<CZvDisplayItem*, ZVColor>> m_own;
+};
+
+/// Turns an item by more degrees for the time of a draw.
+class TurnedBy {
+  public:
+    TurnedBy(CZvDisplayItem& item, double degrees) : m_item(item), m_own(item.GetDegree()) {
+        m_item.SetDegree(m_own + degrees);
+    }
+    ~TurnedBy() { m_item.SetDegree(m_own); }
+    TurnedBy(const TurnedBy&) = delete;
+    TurnedBy& operator=(const TurnedBy&) = delete;
+
+  private:
+    CZvDisplayItem& m_item;
+    double m_own;
+};
+
+} // namespace
+
 void CZvDisplayContext::DrawMember(CZvDispGroup& group, CZvDisplayItem& member) {
     if (!member.GetVisibility()) return;
-    if (!group.UseGroupColor()) {
-        DrawDispItem(&member);
-        return;
-    }
-    const ZVColor own = member.GetColor();
-    member.SetColor(group.GetColor(), 0);
+    std::optional<LentColor> lent;
+    if (group.UseGroupColor()) lent.emplace(member, group.GetColor());
     DrawDispItem(&member);
-    member.SetColor(own, 0);
 }
 
 void CZvDisplayContext::DrawGroup(CZvDispGroup& group) {
@@ -100,31 +141,60 @@ bool CZvDisplayContext::CTXDrawSymbol(CZvDispSymbols& symbol) {
     return true;
 }
 
-void CZvDisplayContext::DrawSymbolMember(CZvDispSymbols& symbol, CZvDisplayItem& member) {
-    placeX = symbol.GetCenter().GetX();
-    placeY = symbol.GetCenter().GetY();
-    placeScale = symbol.GetScale();
-    placeRotate = symbol.GetDegree();
-    {
-        std::optional<zv::MatrixScope> matrix;
-        if (openGL) matrix.emplace(placeX, placeY, placeScale);
-        member.SetInActive(symbol.GetInActive());
-        const double degree = member.GetDegree();
-        if (member.GetDispType() == ZV_DISP_TEXT) member.SetDegree(degree + placeRotate);
-        DrawDispItem(&member);
-        member.SetDegree(degree);
+/// Places the members of a symbol at one instance until its end.
+class CZvDisplayContext::Placement {
+  public:
+    Placement(CZvDisplayContext& context, CZvDispSymbols& symbol) : m_context(context) {
+        const CZvDispPoint& center = symbol.GetCenter();
+        m_context.placeX = center.GetX();
+        m_context.placeY = center.GetY();
+        m_context.placeScale = symbol.GetScale();
+        m_context.placeRotate = symbol.GetDegree();
+        if (context.openGL)
+            m_matrix.emplace(center.GetX(), center.GetY(), center.GetZ(), symbol.GetScale());
     }
-    placeX = placeY = placeRotate = 0.0;
-    placeScale = 1.0;
+    ~Placement() {
+        m_context.placeX = m_context.placeY = m_context.placeRotate = 0.0;
+        m_context.placeScale = 1.0;
+    }
+    Placement(const Placement&) = delete;
+    Placement& operator=(const Placement&) = delete;
+
+  private:
+    CZvDisplayContext& m_context;
+    std::optional<zv::MatrixScope> m_matrix;
+};
+
+void CZvDisplayContext::DrawSymbolMember(CZvDispSymbols& symbol, CZvDisplayItem& member) {
+    Placement placement(*this, symbol);
+    member.SetInActive(symbol.GetInActive());
+    const bool isText = member.GetDispType() == ZV_DISP_TEXT;
+    TurnedBy turned(member, isText ? placeRotate : 0.0);
+    DrawDispItem(&member);
 }
+
+namespace {
+
+/// Raises a flag until its end.
+class FlagScope {
+  public:
+    explicit FlagScope(bool& flag) : m_flag(flag) { m_flag = true; }
+    ~FlagScope() { m_flag = false; }
+    FlagScope(const FlagScope&) = delete;
+    FlagScope& operator=(const FlagScope&) = delete;
+
+  private:
+    bool& m_flag;
+};
+
+} // namespace
 
 void CZvDisplayContext::DrawSymbol(CZvDispSymbols& symbol) {
     itemKind = ZV_CODE_SYMBOL;
     if (!ClipSymbol(symbol)) return;
     std::list<CZvDisplayItem*>* members = CZvDispSymbols::S_GetItemList(symbol.GetSymbolNum());
     if (!members) return;
-    inSymbol = true;
+    FlagScope walking(inSymbol);
     for (CZvDisplayItem* member : *members)
         if (member->GetVisibility()) DrawSymbolMember(symbol, *member);
-    inSymbol = false;
 }

@@ -1,5 +1,4 @@
 #include <cmath>
-#include <memory>
 #include <vector>
 
 #include "context/StrokeFont.h"
@@ -12,15 +11,6 @@ namespace {
 
 constexpr double kDegreesInRadian = 57.29578;
 constexpr double kCell = 6.0;
-
-CZvDispPolyLine* MakeStroke(const std::vector<CZvDispPoint>& points, ZVColor color, bool inactive,
-                            unsigned char width) {
-    auto* stroke = new CZvDispPolyLine(points);
-    stroke->SetColor(color, 0);
-    stroke->SetLineWidth(width, 0);
-    stroke->SetInActive(inactive);
-    return stroke;
-}
 
 /// Start of a text in cells, from its justification.
 double CellX(char justify, double characters) {
@@ -65,8 +55,11 @@ void CZvDisplayContext::DrawStrokeFontLetter(char c, double angle, ZVColor color
             stroke.emplace_back(x, y);
         } else if (drawing) {
             stroke.emplace_back(x, y);
-            const std::unique_ptr<CZvDispPolyLine> line(MakeStroke(stroke, color, inactive, width));
-            DrawDispItem(line.get());
+            CZvDispPolyLine line(stroke);
+            line.SetColor(color, 0);
+            line.SetLineWidth(width, 0);
+            line.SetInActive(inactive);
+            DrawDispItem(&line);
             stroke.clear();
             drawing = false;
         }

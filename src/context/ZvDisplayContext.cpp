@@ -77,24 +77,26 @@ bool CZvDisplayContext::DrawDispItem(CZvDisplayItem* item) {
     }
 }
 
-bool CZvDisplayContext::ClipText(CZvDispText& text) {
-    if (!clipOn) return true;
+namespace {
+
+CZvDispClipper ClipperOf(std::vector<CZvDispPoint>& outline) {
     CZvDispClipper clipper;
-    clipper.SetBoundsPolygon(boundPolygon);
-    return clipper.ClipText(&text);
+    clipper.SetBoundsPolygon(outline);
+    return clipper;
+}
+
+} // namespace
+
+bool CZvDisplayContext::ClipText(CZvDispText& text) {
+    return !clipOn || ClipperOf(boundPolygon).ClipText(&text);
 }
 
 bool CZvDisplayContext::ClipSymbol(CZvDispSymbols& symbol) {
-    if (!clipOn) return true;
-    CZvDispClipper clipper;
-    clipper.SetBoundsPolygon(boundPolygon);
-    return clipper.ClipSymbol(&symbol);
+    return !clipOn || ClipperOf(boundPolygon).ClipSymbol(&symbol);
 }
 
 bool CZvDisplayContext::IsInsideFinalBorder(CZvDispPoint point) {
-    CZvDispClipper clipper;
-    clipper.SetBoundsPolygon(boundPolygon);
-    return clipper.IsInArea(point);
+    return ClipperOf(boundPolygon).IsInArea(point);
 }
 
 void CZvDisplayContext::LogError(int kind, double x, double y, std::string text) {

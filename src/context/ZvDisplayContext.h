@@ -157,6 +157,8 @@ class ZVDISP_API CZvDisplayContext {
     CZvDispMemCtrlExt* memCtrlExt = nullptr;
 
   private:
+    class Placement;
+
     bool CTXDrawSymbol(CZvDispSymbols& symbol);
     bool CTXDrawGroup(CZvDispGroup& group);
     void DrawSymbolMember(CZvDispSymbols& symbol, CZvDisplayItem& member);

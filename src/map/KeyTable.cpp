@@ -10,11 +10,21 @@ bool KeyBelow(const KeyTable::Entry& entry, std::uint32_t key) {
     return entry.key < key;
 }
 
+// Number of the key among all keys that its bucket could hold.
+std::uint32_t Rank(std::uint32_t key) {
+    return (key >> 4) / KeyTable::kBuckets * 16 + (key & 15);
+}
+
+// How many keys of the same bucket lie from one up to before another; 0 when that is not above.
+std::size_t RankBehind(std::uint32_t first, std::uint32_t key) {
+    return key > first ? Rank(key) - Rank(first) : 0;
+}
+
 } // namespace
 
 void KeyTable::Set(std::uint32_t key, std::uint64_t offset) {
     Bucket& bucket = m_buckets[BucketOf(key)];
-    const bool newest = bucket.pages.empty() || bucket.pages.back().page->back().key < key;
+    const bool newest = bucket.pages.empty() || bucket.pages.back().page->entries.back().key < key;
     if (!newest || bucket.index) {
         if (Entry* const entry = FindEntry(bucket, key)) return entry->SetOffset(offset);
         if (!newest && !bucket.index) BuildIndex(bucket);
@@ -27,28 +37,43 @@ void KeyTable::Set(std::uint32_t key, std::uint64_t offset) {
 }
 
 void KeyTable::Append(Bucket& bucket, const Entry& entry) {
-    if (bucket.pages.empty() || bucket.pages.back().page->size() == kPageEntries)
-        bucket.pages.push_back({entry.key, std::make_unique<Page>()});
+    if (bucket.pages.empty() || bucket.pages.back().page->entries.size() == kPageEntries)
+        bucket.pages.push_back({entry.key, std::make_unique<Page>(Page{entry.key, {}})});
     Page& page = *bucket.pages.back().page;
-    page.push_back(entry);
+    page.entries.push_back(entry);
     if (bucket.index) bucket.index->emplace(entry.key, &page);
 }
 
 void KeyTable::BuildIndex(Bucket& bucket) {
     bucket.index = std::make_unique<Index>();
     for (const Slot& slot : bucket.pages)
-        for (const Entry& entry : *slot.page)
+        for (const Entry& entry : slot.page->entries)
             bucket.index->emplace(entry.key, slot.page.get());
 }
 
-// Of ascending keys: the last page that begins at or below the key, 0 if there is none.
+// Of ascending keys: the last page that begins at or below the key, 0 if there is none. Where no
+// pick ID is left out, its rank tells the page.
 std::size_t KeyTable::PageOf(const Bucket& bucket, std::uint32_t key) {
+    const std::vector<Slot>& pages = bucket.pages;
+    const std::size_t guess = RankBehind(pages.front().firstKey, key) / kPageEntries;
+    if (guess < pages.size() && pages[guess].firstKey <= key &&
+        (guess + 1 == pages.size() || key < pages[guess + 1].firstKey))
+        return guess;
     const auto behind =
-        std::upper_bound(bucket.pages.begin(), bucket.pages.end(), key,
+        std::upper_bound(pages.begin(), pages.end(), key,
                          [](std::uint32_t k, const Slot& slot) { return k < slot.firstKey; });
-    return behind == bucket.pages.begin()
-               ? 0
-               : static_cast<std::size_t>(behind - bucket.pages.begin()) - 1;
+    return behind == pages.begin() ? 0 : static_cast<std::size_t>(behind - pages.begin()) - 1;
+}
+
+// Of ascending keys: the first entry at or above the key. It stands no further back than the keys
+// of the bucket between it and the first one could fill.
+std::size_t KeyTable::PlaceOf(const Page& page, std::uint32_t key) {
+    const std::vector<Entry>& entries = page.entries;
+    const std::size_t most = std::min(RankBehind(page.firstKey, key), entries.size());
+    if (most < entries.size() && entries[most].key == key) return most;
+    const auto end = entries.begin() + static_cast<std::ptrdiff_t>(most);
+    return static_cast<std::size_t>(std::lower_bound(entries.begin(), end, key, KeyBelow) -
+                                    entries.begin());
 }
 
 KeyTable::Page* KeyTable::PageThatHolds(const Bucket& bucket, std::uint32_t key) {
@@ -60,9 +85,12 @@ KeyTable::Page* KeyTable::PageThatHolds(const Bucket& bucket, std::uint32_t key)
 
 KeyTable::Entry* KeyTable::EntryIn(const Bucket& bucket, Page* page, std::uint32_t key) {
     if (!page) return nullptr;
-    const auto found = bucket.index ? std::ranges::find(*page, key, &Entry::key)
-                                    : std::lower_bound(page->begin(), page->end(), key, KeyBelow);
-    return found != page->end() && found->key == key ? &*found : nullptr;
+    std::vector<Entry>& entries = page->entries;
+    const std::size_t place =
+        bucket.index ? static_cast<std::size_t>(std::ranges::find(entries, key, &Entry::key) -
+                                                entries.begin())
+                     : PlaceOf(*page, key);
+    return place < entries.size() && entries[place].key == key ? &entries[place] : nullptr;
 }
 
 KeyTable::Entry* KeyTable::FindEntry(const Bucket& bucket, std::uint32_t key) {
@@ -83,9 +111,9 @@ bool KeyTable::Remove(std::uint32_t key) {
         Clear();
         return true;
     }
-    page->erase(page->begin() + (entry - page->data()));
+    page->entries.erase(page->entries.begin() + (entry - page->entries.data()));
     if (bucket.index) bucket.index->erase(key);
-    if (page->empty()) DropEmptyPage(bucket, page);
+    if (page->entries.empty()) DropEmptyPage(bucket, page);
     --m_size;
     ++m_changes;
     return true;
@@ -126,9 +154,9 @@ const KeyTable::Entry* KeyTable::Next(Cursor& cursor) const {
 const KeyTable::Entry* KeyTable::NextInBucket(const Bucket& bucket, Cursor& cursor) {
     if (cursor.m_entry == 0) {
         if (cursor.m_page == 0) return nullptr;
-        cursor.m_entry = bucket.pages[--cursor.m_page].page->size();
+        cursor.m_entry = bucket.pages[--cursor.m_page].page->entries.size();
     }
-    const Entry& entry = (*bucket.pages[cursor.m_page].page)[--cursor.m_entry];
+    const Entry& entry = bucket.pages[cursor.m_page].page->entries[--cursor.m_entry];
     cursor.m_key = entry.key;
     cursor.m_given = true;
     return &entry;
@@ -146,9 +174,7 @@ void KeyTable::Resume(const Bucket& bucket, Cursor& cursor) {
     }
     if (!bucket.index) {
         cursor.m_page = PageOf(bucket, cursor.m_key);
-        const Page& page = *bucket.pages[cursor.m_page].page;
-        const auto place = std::lower_bound(page.begin(), page.end(), cursor.m_key, KeyBelow);
-        cursor.m_entry = static_cast<std::size_t>(place - page.begin());
+        cursor.m_entry = PlaceOf(*bucket.pages[cursor.m_page].page, cursor.m_key);
         return;
     }
     if (Page* const page = PageThatHolds(bucket, cursor.m_key)) {
@@ -156,11 +182,11 @@ void KeyTable::Resume(const Bucket& bucket, Cursor& cursor) {
             std::ranges::find_if(bucket.pages, [&](const Slot& s) { return s.page.get() == page; });
         cursor.m_page = static_cast<std::size_t>(slot - bucket.pages.begin());
         cursor.m_entry =
-            static_cast<std::size_t>(EntryIn(bucket, page, cursor.m_key) - page->data());
+            static_cast<std::size_t>(EntryIn(bucket, page, cursor.m_key) - page->entries.data());
         return;
     }
     cursor.m_page = std::min(cursor.m_page, bucket.pages.size() - 1);
-    cursor.m_entry = std::min(cursor.m_entry, bucket.pages[cursor.m_page].page->size());
+    cursor.m_entry = std::min(cursor.m_entry, bucket.pages[cursor.m_page].page->entries.size());
 }
 
 std::size_t KeyTable::Bytes() const {
@@ -168,7 +194,7 @@ std::size_t KeyTable::Bytes() const {
     for (const Bucket& bucket : m_buckets) {
         bytes += bucket.pages.capacity() * sizeof(Slot);
         for (const Slot& slot : bucket.pages)
-            bytes += sizeof(Page) + slot.page->capacity() * sizeof(Entry);
+            bytes += sizeof(Page) + slot.page->entries.capacity() * sizeof(Entry);
         if (bucket.index) bytes += bucket.index->size() * 40;
     }
     return bytes;

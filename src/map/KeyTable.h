@@ -67,7 +67,10 @@ class KeyTable {
     std::size_t Bytes() const;
 
   private:
-    using Page = std::vector<Entry>; // oldest key first
+    struct Page {
+        std::uint32_t firstKey;     // none of its keys lies below
+        std::vector<Entry> entries; // oldest key first; never empty
+    };
     struct Slot {
         std::uint32_t firstKey;
         std::unique_ptr<Page> page;
@@ -82,6 +85,7 @@ class KeyTable {
     static void Append(Bucket& bucket, const Entry& entry);
     static void BuildIndex(Bucket& bucket);
     static std::size_t PageOf(const Bucket& bucket, std::uint32_t key);
+    static std::size_t PlaceOf(const Page& page, std::uint32_t key);
     static Page* PageThatHolds(const Bucket& bucket, std::uint32_t key);
     static Entry* EntryIn(const Bucket& bucket, Page* page, std::uint32_t key);
     static Entry* FindEntry(const Bucket& bucket, std::uint32_t key);

@@ -57,6 +57,13 @@ void CZvDispMap::DrawTwoPasses(E_Layer layer, int post, int uset, bool redraw) {
     }
 }
 
+void CZvDispMap::DrawTagged(CZvDispLayer& layer, int post, int uset, ZVCulture culture,
+                            bool redraw) {
+    const int number = layer.GetLayerName();
+    m_context->WriteTagInfo(ZV_TAG_LAYER, &number);
+    layer.Draw(m_context, post, uset, culture, redraw);
+}
+
 bool CZvDispMap::DrawLayer(E_Layer layer, int post, int uset, bool redraw, bool firstPass,
                            bool screen, int pass) {
     CZvDispLayer* entry = GetLayer(layer);
@@ -65,22 +72,17 @@ bool CZvDispMap::DrawLayer(E_Layer layer, int post, int uset, bool redraw, bool 
     if (pass == 0 && m_bounds) entry->PopulateMemCtrl(redraw);
     if (CZvLayerInfo::DrawOnce(layer)) {
         if (pass != 1) return true;
-        m_context->WriteTagInfo(ZV_TAG_LAYER, &layer);
-        entry->Draw(m_context, post, uset, ZV_CULTURE_ALL, redraw);
+        DrawTagged(*entry, post, uset, ZV_CULTURE_ALL, redraw);
         return true;
     }
-    for (const int culture : cultures) {
-        m_context->WriteTagInfo(ZV_TAG_LAYER, &layer);
-        entry->Draw(m_context, post, uset, static_cast<ZVCulture>(culture), redraw);
-    }
+    for (const int culture : cultures)
+        DrawTagged(*entry, post, uset, static_cast<ZVCulture>(culture), redraw);
     return true;
 }
 
 void CZvDispMap::DrawWholeLayer(E_Layer layer, int post, int uset, ZVCulture culture, bool redraw) {
     CZvDispLayer* entry = GetLayer(layer);
-    if (!entry || !GetLayerOn(layer)) return;
-    m_context->WriteTagInfo(ZV_TAG_LAYER, &layer);
-    entry->Draw(m_context, post, uset, culture, redraw);
+    if (entry && GetLayerOn(layer)) DrawTagged(*entry, post, uset, culture, redraw);
 }
 
 void CZvDispMap::DrawOnePass(E_Layer layer, int post, int uset, ZVCulture culture, bool redraw) {

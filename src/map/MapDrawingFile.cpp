@@ -1,3 +1,4 @@
+#include <filesystem>
 #include <fstream>
 
 #include "items/ZvDisplayItemPara.h"
@@ -58,7 +59,8 @@ int ReadRecords(std::istream& stream, Add&& add) {
 void LogAreas(int areas, const std::string& path) {
     if (areas > 0)
         CZvLog::Output(FormatInt(areas) + " polygons of the drawing file " + path +
-                           " are not read into a map.",
+                           " are not read into a map; their lines are stepped through token by "
+                           "token, and one that looks like a record may be taken for one.",
                        103, false);
 }
 
@@ -66,7 +68,7 @@ void LogAreas(int areas, const std::string& path) {
 
 void CZvDispMap::Read(const std::string& path) {
     std::ifstream in(zv::NativePath(path), std::ios::binary);
-    if (!in) {
+    if (!in || std::filesystem::is_directory(zv::NativePath(path))) {
         AfxMessageBox("Could not open file:\n" + path);
         return;
     }
@@ -94,6 +96,7 @@ void CZvDispMap::Write(const std::string& path, E_Layer layer, int, int, ZVCultu
         target.Stream() << CZvDisplayItem::PadBlankToBack("EOF:  120", zv::drw::kLine);
     }
     if (!target.Commit())
-        CZvLog::Output("Could not write the drawing file " + path + ".", 103, false);
+        CZvLog::Output("Could not write the drawing file " + path + ": " + target.Reason(), 103,
+                       false);
     SetCursor(LoadCursor(nullptr, IDC_ARROW));
 }

@@ -79,7 +79,7 @@ std::FILE* ScratchFile::OpenHandle(const char* mode) {
 // Pending bytes that cannot be written now stay pending: their own list shall hear of it.
 void ScratchFile::CloseHandle() {
     if (!m_file) return;
-    if (m_pending.Size() && WriteAt(m_written, m_pending.Bytes())) {
+    if (WriteAt(m_written, m_pending.Bytes())) {
         m_written += m_pending.Size();
         m_pending.Release();
     }
@@ -89,22 +89,27 @@ void ScratchFile::CloseHandle() {
 }
 
 bool ScratchFile::Close() {
-    const bool written = m_pending.Size() == 0 || Flush();
+    const bool written = Flush();
     CloseHandle();
     return written;
 }
 
 bool ScratchFile::Commit() {
-    const std::uint64_t enough = std::min(kWriteSize, m_written);
-    return m_pending.Size() < std::max<std::uint64_t>(enough, 1) || Flush();
+    const std::uint64_t enough = std::max<std::uint64_t>(std::min(kWriteSize, m_written), 1);
+    return m_pending.Size() < enough || WritePending();
 }
 
 bool ScratchFile::Flush() {
+    const bool written = WritePending();
+    m_pending.Release();
+    return written;
+}
+
+bool ScratchFile::WritePending() {
     if (m_pending.Size() == 0) return true;
     const bool written = Ensure(true) && WriteAt(m_written, m_pending.Bytes());
     if (written) m_written += m_pending.Size();
     m_pending.Truncate(0);
-    if (!written) m_pending.Release();
     return written;
 }
 
@@ -113,6 +118,7 @@ bool ScratchFile::Overwrite(std::uint64_t offset, std::span<const char> bytes) {
 }
 
 bool ScratchFile::WriteAt(std::uint64_t offset, std::span<const char> bytes) {
+    if (bytes.empty()) return true;
     return fseeko(m_file, static_cast<off_t>(offset), SEEK_SET) == 0 &&
            std::fwrite(bytes.data(), 1, bytes.size(), m_file) == bytes.size();
 }

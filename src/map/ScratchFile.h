@@ -52,9 +52,9 @@ class ScratchFile {
     std::uint64_t Written() const { return m_written; }
     /// Append records here, then Commit.
     RecordWriter& Pending() { return m_pending; }
-    /// Writes the pending bytes if there are enough of them, or in any case. False when they cannot
-    /// be written in full: all that is pending is dropped, and Size is Written again.
-    /// REQUIRES: OpenForWrite was true.
+    /// Writes the pending bytes if there are enough of them; Flush in any case, and frees their
+    /// memory. False when they cannot be written in full: all that is pending is dropped, and Size
+    /// is Written again. REQUIRES: OpenForWrite was true.
     bool Commit();
     bool Flush();
     /// Replaces bytes; false when they could not be written in full.
@@ -67,6 +67,7 @@ class ScratchFile {
     bool Ensure(bool create);
     std::FILE* OpenHandle(const char* mode);
     void CloseHandle();
+    bool WritePending();
     bool WriteAt(std::uint64_t offset, std::span<const char> bytes);
 
     std::string m_name;

@@ -100,22 +100,24 @@ CZvDispCult* CZvDispLayer::FindCult(int post, int uset, ZVCulture culture) const
     return set ? set->GetCult(culture) : nullptr;
 }
 
-void CZvDispLayer::SetColor(ZVColor color, int post, int uset, ZVCulture culture) {
+template<class Act>
+void CZvDispLayer::WithList(int post, int uset, ZVCulture culture, Act&& act) {
     const zv::Composite parts = zv::Split(culture);
     if (CZvDispCult* list = FindCult(post, uset, static_cast<ZVCulture>(parts.culture)))
-        list->SetColor(color, parts.sub);
+        act(*list, parts.sub);
+}
+
+void CZvDispLayer::SetColor(ZVColor color, int post, int uset, ZVCulture culture) {
+    WithList(post, uset, culture, [=](CZvDispCult& list, int sub) { list.SetColor(color, sub); });
 }
 
 void CZvDispLayer::SetLineType(unsigned char type, int post, int uset, ZVCulture culture) {
-    const zv::Composite parts = zv::Split(culture);
-    if (CZvDispCult* list = FindCult(post, uset, static_cast<ZVCulture>(parts.culture)))
-        list->SetLineType(type, parts.sub);
+    WithList(post, uset, culture, [=](CZvDispCult& list, int sub) { list.SetLineType(type, sub); });
 }
 
 void CZvDispLayer::SetLineWidth(double width, int post, int uset, ZVCulture culture) {
-    const zv::Composite parts = zv::Split(culture);
-    if (CZvDispCult* list = FindCult(post, uset, static_cast<ZVCulture>(parts.culture)))
-        list->SetLineWidth(width, parts.sub);
+    WithList(post, uset, culture,
+             [=](CZvDispCult& list, int sub) { list.SetLineWidth(width, sub); });
 }
 
 void CZvDispLayer::SetDegree(double, int, int, ZVCulture) {}

@@ -77,6 +77,8 @@ class ZVDISP_API CZvDispLayer {
     bool GetSubLayerList(std::vector<int>& cultures) const;
     CZvDispUSet* FindUSet(int post, int uset) const;
     CZvDispCult* FindCult(int post, int uset, ZVCulture culture) const;
+    template<class Act>
+    void WithList(int post, int uset, ZVCulture culture, Act&& act);
     void DrawPost(CZvDisplayContext& context, int post, int uset, ZVCulture culture, bool redraw);
 
     using Posts = std::map<int, std::shared_ptr<CZvDispPost>>;

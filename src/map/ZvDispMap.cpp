@@ -25,7 +25,14 @@ CZvDispMap::~CZvDispMap() {
     delete m_scissors;
 }
 
+void CZvDispMap::ForgetMemCtrls(CZvDisplayContext* context) {
+    if (!context) return;
+    context->SetMemCtrl(nullptr);
+    context->SetMemCtrlExt(nullptr);
+}
+
 bool CZvDispMap::SetContext(CZvDisplayContext* const context) {
+    ForgetMemCtrls(context);
     CZvDispFileParam none;
     for (const auto& [number, layer] : m_layers)
         if (layer) layer->SetPara(none, context);
@@ -81,7 +88,8 @@ bool CZvDispMap::AddItem(CZvDisplayItem* item, E_Layer layer, int post, int uset
         return false;
     }
     item->SetPickID(++m_nextPickID);
-    return MakeLayer(layer).AddItem(post, uset, culture, item, GetScissors(), clip);
+    return MakeLayer(layer).AddItem(post, uset, culture, item, GetScissors(),
+                                    clip && GetScissors());
 }
 
 bool CZvDispMap::DeleteItem(CZvDisplayItem* item, E_Layer layer, int post, int uset,
@@ -91,7 +99,8 @@ bool CZvDispMap::DeleteItem(CZvDisplayItem* item, E_Layer layer, int post, int u
     if (uset == -1) uset = item->GetUSet();
     if (culture == -1) culture = item->GetCultureID();
     if (layer == -1 || post == -1 || uset == -1 || culture == -1) return false;
-    return FindCult(layer, post, uset, culture)->DeleteItemFromList(item);
+    CZvDispCult* list = FindCult(layer, post, uset, culture);
+    return list && list->DeleteItemFromList(item);
 }
 
 CZvDisplayItem* CZvDispMap::GetItem(E_Layer layer, int post, int uset, ZVCulture culture,
@@ -133,6 +142,7 @@ void CZvDispMap::ConvertXY(RECT window, int x, int y, double& mapX, double& mapY
 
 bool CZvDispMap::Clear() {
     m_nextPickID = kFirstPickID - 1;
+    ForgetMemCtrls(m_context);
     for (const auto& [number, layer] : m_layers)
         if (layer) layer->Delete(kAllPosts, kAllUserSets, ZV_CULTURE_ALL);
     m_layers.clear();
@@ -144,6 +154,7 @@ bool CZvDispMap::Clear() {
 bool CZvDispMap::Clear(E_Layer layer) {
     CZvDispLayer* entry = GetLayer(layer);
     if (!entry) return false;
+    ForgetMemCtrls(m_context);
     entry->Delete(kAllPosts, kAllUserSets, ZV_CULTURE_ALL);
     m_layers.erase(layer);
     m_cursor = m_layers.end();
@@ -157,20 +168,21 @@ bool CZvDispMap::Clear(E_Layer layer, int post, int uset) {
     return true;
 }
 
-bool CZvDispMap::FreeItems(E_Layer layer, int post, int uset) {
+template<class Act>
+bool CZvDispMap::ForEachList(E_Layer layer, int post, int uset, Act&& act) {
     CZvDispUSet* set = FindUSet(layer, post, uset);
     if (!set) return false;
-    for (CZvDispCult* list = set->GetFirstCult(); list; list = set->GetNextCult())
-        list->FreeItems();
+    for (const int culture : set->GetCultureList())
+        act(*set->GetCult(static_cast<ZVCulture>(culture)));
     return true;
 }
 
+bool CZvDispMap::FreeItems(E_Layer layer, int post, int uset) {
+    return ForEachList(layer, post, uset, [](CZvDispCult& list) { list.FreeItems(); });
+}
+
 bool CZvDispMap::CloseFiles(E_Layer layer, int post, int uset) {
-    CZvDispUSet* set = FindUSet(layer, post, uset);
-    if (!set) return false;
-    for (CZvDispCult* list = set->GetFirstCult(); list; list = set->GetNextCult())
-        list->CloseFiles();
-    return true;
+    return ForEachList(layer, post, uset, [](CZvDispCult& list) { list.CloseFiles(); });
 }
 
 bool CZvDispMap::SetLayerVisibility(E_Layer layer, bool on) {
@@ -201,11 +213,13 @@ bool CZvDispMap::GetPostList(E_Layer layer, std::vector<int>& posts) const {
 }
 
 std::vector<int> CZvDispMap::GetUSetList(E_Layer layer, int post) const {
-    return GetLayer(layer)->GetUSetList(post);
+    const CZvDispLayer* entry = GetLayer(layer);
+    return entry ? entry->GetUSetList(post) : std::vector<int>();
 }
 
 std::vector<int> CZvDispMap::GetCultureList(E_Layer layer, int post, int uset) const {
-    return GetLayer(layer)->GetCultureList(post, uset);
+    const CZvDispLayer* entry = GetLayer(layer);
+    return entry ? entry->GetCultureList(post, uset) : std::vector<int>();
 }
 
 std::string CZvDispMap::GetCultureAsText(ZVCulture culture) const {

@@ -3,6 +3,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "clip/ZvDispMapClipper.h"
@@ -65,7 +66,7 @@ class ZVDISP_API CZvDispMap {
     bool AddItem(CZvDisplayItem* item, E_Layer layer, int post, int uset, ZVCulture culture,
                  bool clip);
     /// Takes an item out of its list; the object stays the caller's. A place of -1 is the item's
-    /// own; false when that is -1 too. REQUIRES: the path exists.
+    /// own; false when that is -1 too. False where the path does not exist.
     bool DeleteItem(CZvDisplayItem* item, E_Layer layer, int post, int uset, ZVCulture culture);
     /// A fresh object that the caller owns; null when a step is missing.
     CZvDisplayItem* GetItem(E_Layer layer, int post, int uset, ZVCulture culture, unsigned pickID);
@@ -98,7 +99,7 @@ class ZVDISP_API CZvDispMap {
     CZvDispLayer* GetDispLayer(E_Layer layer) const { return GetLayer(layer); }
     std::vector<int> GetLayerList() const;
     bool GetPostList(E_Layer layer, std::vector<int>& posts) const;
-    /// REQUIRES: the layer exists.
+    /// Empty where a step is missing.
     std::vector<int> GetUSetList(E_Layer layer, int post) const;
     std::vector<int> GetCultureList(E_Layer layer, int post, int uset) const;
     std::string GetCultureAsText(ZVCulture culture) const;
@@ -129,11 +130,16 @@ class ZVDISP_API CZvDispMap {
     CZvDispUSet* FindUSet(E_Layer layer, int post, int uset) const;
     CZvDispCult* FindCult(E_Layer layer, int post, int uset, ZVCulture culture) const;
     CZvDispLayer& MakeLayer(E_Layer layer);
+    /// The memory controls are layers': a context must not see them when those go.
+    static void ForgetMemCtrls(CZvDisplayContext* context);
+    template<class Act>
+    bool ForEachList(E_Layer layer, int post, int uset, Act&& act);
     void OpenContext();
     void DrawTwoPasses(E_Layer layer, int post, int uset, bool redraw);
     void DrawOnePass(E_Layer layer, int post, int uset, ZVCulture culture, bool redraw);
     bool DrawLayer(E_Layer layer, int post, int uset, bool redraw, bool firstPass, bool screen,
                    int pass);
+    void DrawTagged(CZvDispLayer& layer, int post, int uset, ZVCulture culture, bool redraw);
     void DrawWholeLayer(E_Layer layer, int post, int uset, ZVCulture culture, bool redraw);
 
     using Layers = std::map<E_Layer, std::unique_ptr<CZvDispLayer>>;

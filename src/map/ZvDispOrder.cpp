@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <limits>
 
 namespace {
 
@@ -61,7 +62,16 @@ bool CZvDispOrder::IsEndOfList() const {
 
 void CZvDispOrder::AddLayer(E_Layer layer) {
     DeleteLayer(layer);
+    if (!m_order.empty() && m_order.rbegin()->first == std::numeric_limits<int>::max()) Renumber();
     SetLayerOrder(m_order.empty() ? 0 : m_order.rbegin()->first + 1, layer);
+}
+
+void CZvDispOrder::Renumber() {
+    std::map<int, E_Layer> dense;
+    for (const auto& [position, layer] : m_order)
+        dense.emplace_hint(dense.end(), static_cast<int>(dense.size()), layer);
+    m_order = std::move(dense);
+    m_cursor = m_order.begin();
 }
 
 bool CZvDispOrder::DeleteLayer(E_Layer layer) {

@@ -29,6 +29,8 @@ class ZVDISP_API CZvDispOrder {
 
   private:
     bool DeleteLayer(E_Layer layer);
+    /// Positions 0, 1, 2 ..., when the greatest number is used up.
+    void Renumber();
 
     std::map<int, E_Layer> m_order;
     std::map<int, E_Layer>::const_iterator m_cursor;

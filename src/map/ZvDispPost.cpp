@@ -32,6 +32,7 @@ void CZvDispPost::DrawUSet(CZvDisplayContext& context, int uset, ZVCulture cultu
 }
 
 void CZvDispPost::Draw(CZvDisplayContext* context, int uset, ZVCulture culture, bool redraw) {
+    if (!context) return;
     if (uset != kAllUserSets) return DrawUSet(*context, uset, culture, redraw);
     for (const auto& [number, child] : m_usets)
         DrawUSet(*context, number, culture, redraw);

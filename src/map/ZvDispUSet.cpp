@@ -56,6 +56,7 @@ void CZvDispUSet::DrawList(CZvDisplayContext& context, int culture, int sub, boo
 }
 
 void CZvDispUSet::Draw(CZvDisplayContext* context, ZVCulture culture, bool redraw) {
+    if (!context) return;
     if (culture == ZV_CULTURE_ALL) {
         for (const auto& [number, list] : m_cultures)
             DrawList(*context, number, 0, redraw);

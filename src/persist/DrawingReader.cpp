@@ -10,6 +10,7 @@ namespace zv {
 
 namespace {
 constexpr int kEof = -1;
+constexpr std::size_t kLongestToken = 100;
 constexpr int kFileEnd = 0x1a;
 
 bool IsSpace(int c) {
@@ -55,14 +56,11 @@ void DrawingReader::Skip(int count) {
 }
 
 std::string DrawingReader::Token() {
-    int c = Next();
-    while (c != kEof && IsSpace(c))
-        c = Next();
+    while (IsSpace(Peek()))
+        Next();
     std::string token;
-    while (c != kEof) {
+    for (int c = Peek(); c != kEof && !IsSpace(c) && token.size() < kLongestToken; c = Peek()) {
         token.push_back(static_cast<char>(c));
-        c = Peek();
-        if (c == kEof || IsSpace(c)) break;
         m_in.rdbuf()->sbumpc();
     }
     return token;

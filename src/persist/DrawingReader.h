@@ -16,7 +16,8 @@ class DrawingReader {
     /// The next characters, fewer at the end of the file.
     std::string Chars(int count);
     void Skip(int count);
-    /// Next run of characters between white space; empty at the end of the file.
+    /// Next run of characters between white space, at most 100 of them; empty at the end of the
+    /// file.
     std::string Token();
     /// The tag of a record's head: a token up to and including its first colon. Where the symbol
     /// field stands glued behind the tag, the reader is put back behind the colon; of a token

@@ -3,10 +3,12 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <stdexcept>
 
 #include "platform/zvset/ZvSettings.h"
 #include "support/LogLines.h"
 #include "support/RecordingContext.h"
+#include "support/SymbolHome.h"
 
 namespace {
 
@@ -191,6 +193,119 @@ TEST(ContextFrame, AGroupsColourIsLentToItsMembers) {
     EXPECT_EQ(circle->GetColor(), 5);
 }
 
+TEST(ContextFrame, ANestedGroupsMembersKeepTheirColours) {
+    RecordingContext context;
+    CZvDispGroup outer;
+    auto* inner = new CZvDispGroup;
+    auto* circle = new CZvDispCircle;
+    circle->SetColor(static_cast<ZVColor>(5), 0);
+    inner->AddPrimitive(0, circle);
+    outer.AddPrimitive(1, inner);
+    outer.SetUseGroupColorFlg(true);
+    outer.SetColor(static_cast<ZVColor>(7), 0);
+    context.DrawDispItem(&outer);
+    EXPECT_EQ(context.Take(), "group UNDEFINED c7\ngroup UNDEFINED c7\ncircle 0,0 r 1 c7\n");
+    EXPECT_EQ(circle->GetColor(), 5);
+    EXPECT_EQ(inner->GetColor(), 255);
+}
+
+/// Notes where the frame has placed the member that it draws.
+class PlacementTarget : public PlainTarget {
+  public:
+    std::vector<std::string> places;
+    bool throwing = false;
+    void DrawPolyLine(CZvDispPolyLine& line) override { Note(line); }
+    void DrawText(CZvDispText& text) override { Note(text); }
+    using PlainTarget::itemKind;
+
+  private:
+    void Note(CZvDisplayItem& item) {
+        if (throwing) throw std::runtime_error("full");
+        places.push_back(zv::FormatShortest(placeX) + "," + zv::FormatShortest(placeY) + " x" +
+                         zv::FormatShortest(placeScale) + " r" + zv::FormatShortest(placeRotate) +
+                         " d" + zv::FormatShortest(item.GetDegree()) + " k" +
+                         zv::FormatInt(itemKind) + (item.GetInActive() ? " inactive" : "") +
+                         (inSymbol ? "" : " outside") + " c" + zv::FormatInt(item.GetColor()));
+    }
+};
+
+CZvDispSymbols& PlacedSymbol(CZvDispSymbols& symbol) {
+    auto* line = new CZvDispPolyLine(std::vector<CZvDispPoint>{{0, 0}, {1, 0}});
+    line->SetDegree(5.0);
+    auto* text = new CZvDispText;
+    text->SetDegree(10.0);
+    auto* hidden = new CZvDispPolyLine;
+    hidden->SetVisibility(false);
+    CZvDispSymbols::S_AddExternalSymbols(new std::list<CZvDisplayItem*>{line, text, hidden}, 1900);
+    symbol.SetSymbolNum(1900);
+    symbol.SetCenter({50, 60});
+    symbol.SetScale(3.0);
+    symbol.SetDegree(90.0);
+    symbol.SetInActive(true);
+    symbol.SetColor(static_cast<ZVColor>(5), 0);
+    symbol.SetTextColor(static_cast<ZVColor>(6), 0);
+    return symbol;
+}
+
+TEST(ContextSymbol, PlacesItsMembersAndTurnsItsTexts) {
+    zv::test::SymbolHome home;
+    home.WriteEmptyFiles();
+    PlacementTarget target;
+    CZvDispSymbols symbol;
+    target.DrawDispItem(&PlacedSymbol(symbol));
+    EXPECT_EQ(target.places, (std::vector<std::string>{"50,60 x3 r90 d5 k15 inactive c5",
+                                                       "50,60 x3 r90 d100 k15 inactive c6"}));
+    EXPECT_EQ(target.placeX, 0.0);
+    EXPECT_EQ(target.placeScale, 1.0);
+    EXPECT_FALSE(target.inSymbol);
+}
+
+TEST(ContextSymbol, LiesWhereItsCentreLies) {
+    zv::test::SymbolHome home;
+    home.WriteEmptyFiles();
+    PlacementTarget target;
+    target.clipOn = true;
+    target.boundPolygon = {{0, 0}, {0, 10}, {10, 10}, {10, 0}};
+    CZvDispSymbols symbol;
+    PlacedSymbol(symbol);
+    EXPECT_FALSE(target.ClipSymbol(symbol));
+    target.DrawDispItem(&symbol);
+    EXPECT_TRUE(target.places.empty());
+    EXPECT_EQ(target.itemKind, 15);
+    symbol.SetCenter({5, 5});
+    EXPECT_TRUE(target.ClipSymbol(symbol));
+    target.DrawDispItem(&symbol);
+    EXPECT_EQ(target.places.size(), 2u);
+}
+
+TEST(ContextSymbol, ATargetThatThrowsLeavesNothingBehind) {
+    zv::test::SymbolHome home;
+    home.WriteEmptyFiles();
+    PlacementTarget target;
+    target.throwing = true;
+    CZvDispSymbols symbol;
+    EXPECT_THROW(target.DrawDispItem(&PlacedSymbol(symbol)), std::runtime_error);
+    EXPECT_FALSE(target.inSymbol);
+    EXPECT_EQ(target.placeX, 0.0);
+    EXPECT_EQ(CZvDispSymbols::S_GetItemList(1900)->front()->GetColor(), 8);
+}
+
+TEST(ContextSymbol, FilledMembersTakeTheFillColour) {
+    zv::test::SymbolHome home;
+    home.WriteEmptyFiles();
+    RecordingContext context;
+    auto* area = new CZvDispPolygon(std::vector<CZvDispPoint>{{0, 0}, {1, 0}, {0, 0}});
+    area->SetFill(true);
+    CZvDispSymbols symbol;
+    CZvDispSymbols::S_AddExternalSymbols(new std::list<CZvDisplayItem*>{area, new CZvDispCircle},
+                                         1901);
+    symbol.SetSymbolNum(1901);
+    symbol.SetFillColor(static_cast<ZVColor>(20), 0);
+    context.DrawDispItem(&symbol);
+    EXPECT_EQ(context.Take(),
+              "symbol 1901 0,0 c8\npolygon 0,0 1,0 0,0 c20 filled\ncircle 0,0 r 1 c8\n");
+}
+
 CZvDispText& Place(CZvDispText& text, const char* label, char h, char v) {
     text.SetLabel(label);
     text.SetHorzJustify(h);
@@ -247,6 +362,26 @@ TEST(ContextText, StrokesReachTheTargetAsLines) {
     EXPECT_EQ(dot[0].GetY(), 202.0);
     EXPECT_EQ(dot[1].GetX(), 102.0);
     EXPECT_EQ(dot[1].GetY(), 202.0);
+}
+
+TEST(ContextText, StrokesHaveTheTextsColourWidthAndActivity) {
+    struct Strokes : RecordingContext {
+        bool inactive = false;
+        void DrawText(CZvDispText& text) override { DrawStrokeFontText(text); }
+        void DrawPolyLine(CZvDispPolyLine& line) override {
+            inactive = line.GetInActive();
+            RecordingContext::DrawPolyLine(line);
+        }
+    } target;
+    CZvDispText text;
+    Place(text, ".", 'l', 'x');
+    text.SetVertHeight(5.0f);
+    text.SetColor(static_cast<ZVColor>(5), 0);
+    text.SetLineWidth(2, 0);
+    text.SetInActive(true);
+    target.DrawDispItem(&text);
+    EXPECT_EQ(target.Take(), "line 101,202 102,202 c5 w2\n");
+    EXPECT_TRUE(target.inactive);
 }
 
 TEST(ContextText, TheNextCharacterStandsACellFurtherAndTurnsWithTheText) {
@@ -393,19 +528,51 @@ TEST(ContextFileName, TheTailNamesPostAndDataset) {
     EXPECT_EQ(log.Get().size(), 1u);
 }
 
+TEST(ContextFrame, ErrorsOfThePlatformAreShownWithTheirTitle) {
+    struct Failing : PlainTarget {
+        static void Show() { GetError("Specify Device Context's Pixel Format"); }
+    };
+    zv::HeadlessMessageHost host;
+    zv::MessageHost* before = zv::SetMessageHost(&host);
+    Failing::Show();
+    zv::SetMessageHost(before);
+    ASSERT_EQ(host.GetShown().size(), 1u);
+    EXPECT_EQ(host.GetShown()[0].title, "Specify Device Context's Pixel Format");
+    EXPECT_EQ(host.GetShown()[0].style, 64u);
+}
+
+TEST(ContextFrame, ColoursComeFromThePalette) {
+    PlainTarget target;
+    int r = 1, g = 1, b = 1;
+    EXPECT_TRUE(target.GetRGBColor(0, r, g, b));
+    EXPECT_EQ(r + g + b, 0);
+    EXPECT_TRUE(target.GetRGBColor(8, r, g, b));
+    EXPECT_EQ(r + g + b, 3 * 255);
+}
+
 TEST(ContextFrame, CopiesTakeEveryMember) {
     PlainTarget from;
     from.boundPolygon = {{0, 0}, {1, 1}};
     from.layer = 77;
     from.SetSkewAngle(12.0);
     from.SetIsOpenGL(true);
+    from.placeScale = 4.0;
+    from.clipOn = true;
+    from.strokeFont = false;
+    from.culture = 220;
     PlainTarget copy(from);
+    from.boundPolygon.clear();
+    EXPECT_EQ(copy.placeScale, 4.0);
+    EXPECT_TRUE(copy.clipOn);
+    EXPECT_FALSE(copy.strokeFont);
+    EXPECT_EQ(copy.culture, 220);
     EXPECT_EQ(copy.layer, 77);
     EXPECT_EQ(copy.boundPolygon.size(), 2u);
     EXPECT_TRUE(copy.GetIsOpenGL());
     PlainTarget assigned;
-    assigned = from;
+    assigned = copy;
     EXPECT_EQ(assigned.layer, 77);
+    EXPECT_EQ(assigned.boundPolygon.size(), 2u);
 }
 
 } // namespace

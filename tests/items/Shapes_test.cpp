@@ -102,6 +102,42 @@ TEST(PolyLine, ClearingKeepsTheCapacity) {
     EXPECT_EQ(line.GetVertices().capacity(), capacity);
 }
 
+TEST(CircleAndArc, AZeroTurnChangesNoBit) {
+    CZvDispCircle circle({0.1, -0.0, 0.3}, 2.5);
+    CZvDispArc arc({0.1, -0.0, 0.3}, 2.5, 0.7f, -0.0f);
+    for (const double zero : {0.0, -0.0}) {
+        circle.V_Rotate({7, 7}, zero);
+        arc.V_Rotate({7, 7}, zero);
+        for (const CZvDispPoint& center : {circle.GetCenter(), arc.GetCenter()}) {
+            EXPECT_EQ(center.GetX(), 0.1);
+            EXPECT_TRUE(std::signbit(center.GetY()));
+            EXPECT_EQ(center.GetZ(), 0.3);
+        }
+        EXPECT_EQ(circle.GetRadius(), 2.5);
+        EXPECT_EQ(arc.GetStartAngle(), 0.7f);
+        EXPECT_TRUE(std::signbit(arc.GetEndAngle()));
+    }
+}
+
+TEST(CircleAndArc, DrawInTheColourOfTheirCode) {
+    RecordingContext context;
+    CZvDispCircle circle({1, 2}, 3.0);
+    CZvDispArc arc({1, 2}, 3.0, 0.0f, 90.0f);
+    for (const auto& [code, color] : {std::pair{'m', "11"}, {'r', "11"}, {'v', "246"}}) {
+        for (CZvDisplayItem* item : std::initializer_list<CZvDisplayItem*>{&circle, &arc}) {
+            item->SetCustomCode(static_cast<unsigned char>(code));
+            item->SetVisibility(false);
+            item->Draw(&context);
+            const std::string trace = context.Take();
+            EXPECT_TRUE(trace.ends_with(std::string(" c") + color + "\n")) << trace;
+            EXPECT_EQ(item->GetColor(), 8);
+        }
+    }
+    arc.Erase(&context);
+    EXPECT_EQ(context.Take(), "arc 1,2 r 3 from 0 to 90 c0\n");
+    EXPECT_EQ(arc.GetColor(), 8);
+}
+
 TEST(Polygon, IsDrawnEvenWhenDeletedAndInvisible) {
     RecordingContext context;
     CZvDispPolygon polygon(SquareVertices());
@@ -202,6 +238,7 @@ TEST(Arc, AssignmentTakesTheBaseAndTheShape) {
 class RecordingScreen : public CZvDispGL {
   public:
     std::vector<std::string> trace;
+    bool traceCoded = false;
     void DrawPolyLine(CZvDispPolyLine& line) override { Say("line", line); }
     void DrawPolygon(CZvDispPolygon& polygon) override { Say("polygon", polygon); }
     void DrawCircle(CZvDispCircle& circle) override { Say("circle", circle); }
@@ -210,7 +247,8 @@ class RecordingScreen : public CZvDispGL {
 
   private:
     void Say(const char* what, CZvDisplayItem& item) {
-        trace.push_back(std::string(what) + " c" + std::to_string(item.GetColor()));
+        trace.push_back(std::string(what) + " c" + std::to_string(item.GetColor()) +
+                        (traceCoded && item.IsCustomCode('c') ? " coded" : ""));
     }
 };
 
@@ -285,6 +323,28 @@ TEST(EditStep, ACircleIsErasedBeforeItIsCoded) {
     CZvDispArc arc({1, 1}, 2.0, 0.0f, 90.0f);
     arc.V_Update(&step);
     EXPECT_EQ(arc.GetCenter().GetX(), 4.0);
+}
+
+TEST(EditStep, LinesAreCodedBeforeTheyAreErasedCirclesAndArcsAfterwards) {
+    RecordingScreen screen;
+    screen.traceCoded = true;
+    const Step step('d', screen);
+    CZvDispPolyLine line(SquareVertices());
+    CZvDispPolygon polygon(SquareVertices());
+    CZvDispCircle circle;
+    CZvDispArc arc;
+    for (CZvDisplayItem* item :
+         std::initializer_list<CZvDisplayItem*>{&line, &polygon, &circle, &arc})
+        item->V_Update(&step);
+    EXPECT_EQ(screen.trace, (Trace{"line c99 coded", "polygon c8 coded", "circle c0", "arc c0"}));
+}
+
+TEST(EditStep, UpdateDoesNotRedrawAnItemThatIsOnlyCoded) {
+    RecordingScreen screen;
+    CZvDispPolyLine line(SquareVertices());
+    const Step step('v', screen);
+    line.Update(&step);
+    EXPECT_EQ(screen.trace, (Trace{"line c99", "line c246"})) << "both by the edit step itself";
 }
 
 TEST(EditStep, AnUnknownLetterStopsBeforeTheBase) {

@@ -200,6 +200,33 @@ TEST(Group, ShownAgainItIsHighlightedForTheTimeOfTheStep) {
     EXPECT_EQ(group.GetColor(), 255);
 }
 
+TEST(Group, AStepLeavesTheColoursOfMembersUnderKeyZero) {
+    GroupScreen screen;
+    CZvDispGroup group;
+    CZvDispPolyLine* line = Line(1);
+    line->SetColor(C(5), 0);
+    group.AddPrimitive(0, line);
+    const auto show = Step('v', screen), turn = Step('r', screen);
+    group.V_Update(&show);
+    EXPECT_EQ(line->GetColor(), 5);
+    group.V_Update(&turn);
+    EXPECT_EQ(line->GetColor(), 5);
+    EXPECT_EQ(group.GetColor(), 255);
+}
+
+TEST(Group, FinishingUncodesTheWholeAndLeavesItInPlace) {
+    GroupScreen screen;
+    CZvDispGroup group;
+    CZvDispPolyLine* line = Line(1);
+    group.AddPrimitive(1, line);
+    const auto step = Step('f', screen);
+    group.V_Update(&step);
+    EXPECT_FALSE(group.IsCustomCode('c'));
+    EXPECT_FALSE(line->IsCustomCode('c'));
+    EXPECT_EQ(group.GetOrigin().GetX(), 0.0);
+    EXPECT_EQ(screen.trace, std::vector<std::string>{"line c99"});
+}
+
 TEST(Group, ErasingErasesTheWholeBeforeTheMembers) {
     GroupScreen screen;
     CZvDispGroup group;

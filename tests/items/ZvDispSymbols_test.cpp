@@ -164,6 +164,57 @@ TEST(SymbolLibrary, ABlockWithoutItsEndShowsTheInvalidFileMessage) {
     EXPECT_EQ(CZvDispSymbols::S_GetItemList(52), nullptr);
 }
 
+TEST(SymbolLibrary, LoadsTheUsersFilesLastAndAnewWhenTheFoldersMove) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    home.Write("master.sym", LineSymbol(51));
+    home.Write("symmap.tab", "OIL              56\r\n");
+    home.WriteWork("UserTitle.tab", LineSymbol(902));
+    home.WriteWork("user.tab", LineSymbol(901));
+    EXPECT_EQ(CZvDispSymbols::S_GetGlobalSymFilePath(), home.WorkTemplate() + "user.tab");
+    CZvDispSymbols symbol;
+    symbol.SetSymbolNum("OIL");
+    EXPECT_EQ(symbol.GetSymbolNum(), 56);
+    EXPECT_EQ(*CZvDispSymbols::S_GetSymbolNumList(), (std::list<int>{51, 901, 902}));
+
+    zv::test::TempFolder other;
+    std::filesystem::create_directories(other.Path() / "Template");
+    for (const char* file : {"welsym.tab", "shotsym.tab"})
+        zv::test::WriteText(other.Path() / "Template" / file, "");
+    zv::test::WriteText(other.Path() / "Template" / "master.sym", LineSymbol(51, "other"));
+    zv::test::WriteText(other.Path() / "Template" / "symmap.tab", "OIL              99\r\n");
+    CZvUtRegistry::S_Override(CZvUtRegistry::S_GetHomePath(), CZvUtRegistry::S_GetHomeKey(),
+                              other.Path());
+    symbol.SetSymbolNum("OIL");
+    EXPECT_EQ(symbol.GetSymbolNum(), 99);
+    std::string description;
+    EXPECT_TRUE(CZvDispSymbols::S_GetSymDesc(51, description));
+    EXPECT_EQ(description, "other");
+    EXPECT_TRUE(home.messages.GetShown().empty()) << "the old folder's symbols are gone first";
+}
+
+TEST(SymbolLibrary, AFolderInPlaceOfAFileCannotBeOpened) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    CZvDispSymbols symbol;
+    EXPECT_FALSE(CZvDispSymbols::S_LoadSymbols(home.HomeTemplate(), "-1", true, "", false));
+    ASSERT_EQ(home.messages.GetShown().size(), 1u);
+    EXPECT_TRUE(home.messages.GetShown()[0].text.starts_with("Could not open symbol file:\n"));
+}
+
+TEST(SymbolLibrary, TakesAListTwiceAndListsWithGaps) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    CZvDispSymbols symbol;
+    auto* list = new std::list<CZvDisplayItem*>{nullptr, new CZvDispPolyLine, nullptr};
+    CZvDispSymbols::S_AddExternalSymbols(list, 1500);
+    CZvDispSymbols::S_AddExternalSymbols(list, 1500);
+    ASSERT_EQ(CZvDispSymbols::S_GetItemList(1500), list);
+    EXPECT_EQ(list->size(), 1u);
+    CZvDispSymbols::S_AddExternalSymbols(nullptr, 1501);
+    EXPECT_TRUE(CZvDispSymbols::S_GetItemList(1501)->empty());
+}
+
 TEST(SymbolLibrary, AControlZEndsAFile) {
     SymbolHome home;
     home.WriteEmptyFiles();
@@ -199,11 +250,13 @@ TEST(SymbolLibrary, AnExternalSymbolTakesThePlaceOfItsNumber) {
 }
 
 TEST(SymbolNames, AreReadFromFixedColumns) {
-    std::istringstream in("comment line\r\noilwel  rest      56 more\r\nDRY              54\r\n"
-                          "\r\nGAS              6\n\x1aIGN              1\r\n");
+    std::istringstream in(
+        "comment line\r\noilwel  rest      56 more\r\nDRY              54\r\n"
+        "\r\nGAS              6\nLAST             7\x1aIGN\r\nIGN              1\r\n");
     CZvDispSymbolMap::Names names;
     CZvDispSymbolMap::ReadNames(in, names);
-    EXPECT_EQ(names, (CZvDispSymbolMap::Names{{"OILWEL", 56}, {"DRY", 54}, {"GAS", 6}}));
+    EXPECT_EQ(names,
+              (CZvDispSymbolMap::Names{{"OILWEL", 56}, {"DRY", 54}, {"GAS", 6}, {"LAST", 7}}));
 }
 
 TEST(SymbolNames, AnUnknownNameGives68) {
@@ -393,6 +446,52 @@ TEST(SymbolItem, AMoveStepShiftsTheCentreAndMarksTheMembers) {
     EXPECT_EQ(screen.trace, std::vector<std::string>{"c8 t-1 f-1"});
 }
 
+TEST(SymbolItem, InvisibleItIsNotDrawn) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    RecordingContext context;
+    auto symbol = Symbol(1001);
+    AddMixedSymbol(1001);
+    symbol->SetVisibility(false);
+    symbol->Draw(&context);
+    EXPECT_EQ(context.Take(), "");
+}
+
+TEST(SymbolItem, IsErasedWithoutTheGroupColourFlagWhichComesBack) {
+    struct FlagContext : RecordingContext {
+        std::vector<bool> flags;
+        void DrawSymbol(CZvDispSymbols& symbol) override {
+            flags.push_back(symbol.GetUseGroupColorFlg());
+        }
+    };
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    FlagContext context;
+    auto symbol = Symbol(1001);
+    symbol->SetUseGroupColorFlg(true);
+    symbol->Erase(&context);
+    EXPECT_EQ(context.flags, std::vector<bool>{false});
+    EXPECT_TRUE(symbol->GetUseGroupColorFlg());
+}
+
+TEST(SymbolItem, OtherStepsEraseItAndLeaveItsPlace) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    for (const char code : {'d', 'f', 'r', 'q'}) {
+        SymbolScreen screen;
+        auto symbol = Symbol(1001);
+        AddMixedSymbol(1001);
+        T_ZV_STRUC_UPDATE step;
+        step.code = static_cast<unsigned char>(code);
+        step.context = &screen;
+        step.deltaX = 5.0;
+        symbol->V_Update(&step);
+        EXPECT_EQ(screen.trace, std::vector<std::string>{"c8 t-1 f-1"}) << code;
+        EXPECT_EQ(symbol->GetCenter().GetX(), 10.0);
+        EXPECT_EQ(symbol->IsCustomCode('c'), code != 'f');
+    }
+}
+
 TEST(SymbolItem, ShownAgainItStandsInTheCodedColours) {
     SymbolHome home;
     home.WriteEmptyFiles();
@@ -455,6 +554,37 @@ TEST(SymbolFile, NamedSymbolsAreWrittenAndMissingOnesTold) {
         (LogLines::Line{
             "Symbol number 99 has been removed from the memory and won't be saved to the file", 101,
             false}));
+}
+
+TEST(SymbolFile, WhatCannotBeWrittenIsLogged) {
+    SymbolHome home;
+    home.WriteEmptyFiles();
+    CZvDispSymbols symbol;
+    LogLines log;
+    std::vector<std::string> none;
+    CZvDispSymbols::S_WriteSymbolsToFile(home.TempFile("no/such/folder.sym"), none, true);
+    ASSERT_EQ(log.Get().size(), 1u);
+    EXPECT_EQ(log.Get()[0].level, 103);
+    EXPECT_NE(log.Get()[0].text.find("folder.sym"), std::string::npos);
+}
+
+TEST(SymbolFile, VariableTextsKeepTheirAttributes) {
+    SymbolHome home;
+    for (const char* file : {"welsym.tab", "master.sym", "symmap.tab"})
+        home.Write(file, "");
+    home.Write("shotsym.tab",
+               ReadText(std::filesystem::path(ZVDISP_TEST_SHARE) / "Template" / "shotsym.tab"));
+    CZvDispSymbols symbol;
+    std::list<CZvDisplayItem*>* texts = CZvDispSymbols::S_GetVtxpItemList(217);
+    ASSERT_NE(texts, nullptr);
+    ASSERT_FALSE(texts->empty());
+    texts->front()->SetColor(C(6), 0);
+    std::vector<std::string> none;
+    CZvDispSymbols::S_WriteSymbolsToFile(home.TempFile("a.sym"), none, true);
+    CZvDispSymbols::S_WriteSymbolsToFile(home.TempFile("b.sym"), none, true);
+    EXPECT_TRUE(ReadText(home.TempFile("a.sym")) == ReadText(home.TempFile("b.sym")));
+    EXPECT_EQ(texts->front()->GetColor(), 6);
+    EXPECT_EQ(texts->front()->GetLineWidth(), 0);
 }
 
 TEST(SymbolFile, ADeletedSymbolWritesItsLogLineAlone) {
@@ -573,6 +703,10 @@ TEST(LineNumber, TheMiddleOfTheRulesIsHandedBack) {
     EXPECT_TRUE(list.empty());
     EXPECT_DOUBLE_EQ(point.GetX(), 48.0); // (93 + 3) / 2
     EXPECT_DOUBLE_EQ(point.GetY(), 50.0);
+    CZvDispPoint turned(100, 50);
+    CZvDispSymbols::S_BuildMidLine(10, 10, 5, 90, turned, &list, false);
+    EXPECT_DOUBLE_EQ(turned.GetX(), 100.0);
+    EXPECT_DOUBLE_EQ(turned.GetY(), -2.0);
 }
 
 TEST(LineNumber, SizesBecomeMapUnits) {

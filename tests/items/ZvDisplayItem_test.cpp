@@ -6,6 +6,7 @@
 
 #include "items/ZvDispGroup.h"
 #include "items/ZvDispPolyLine.h"
+#include "items/ZvDisplayItemPara.h"
 #include "support/RecordingContext.h"
 
 namespace {
@@ -99,12 +100,24 @@ TEST(DisplayItem, AssignmentLeavesLineTypePlaceAndParaOfTheTarget) {
     from.SetFillStyle(static_cast<E_FILL_STYLE>(4));
     from.SetInActive(true);
     from.SetLayerID(E_LAYER_WELLS);
+    from.SetPost(1);
+    from.SetUSet(2);
+    from.SetCultureID(static_cast<ZVCulture>(220));
+    CZvDisplayItemPara para;
+    from.SetPara(&para);
     from.SetCustomCode('m');
     to.SetLineType(1, 0);
     to = from;
     EXPECT_EQ(to.GetLineType(), 1);
     EXPECT_FALSE(to.GetInActive());
     EXPECT_EQ(to.GetLayerID(), -1);
+    EXPECT_EQ(to.GetPost(), -1);
+    EXPECT_EQ(to.GetUSet(), -1);
+    EXPECT_EQ(to.GetCultureID(), -1);
+    EXPECT_EQ(to.GetPara(), nullptr);
+    CZvDisplayItem& same = to;
+    to = same;
+    EXPECT_EQ(to.GetID(), "42-001");
     EXPECT_EQ(to.GetLineWidth(), 2);
     EXPECT_EQ(to.GetColor(), 20);
     EXPECT_EQ(to.GetID(), "42-001");

@@ -35,6 +35,15 @@ TEST(DrawOrder, AddingALayerMovesItToTheVeryEnd) {
     EXPECT_EQ(order.GetLayerFromOrder(52), -1);
 }
 
+TEST(DrawOrder, BehindTheGreatestPositionTheOrderIsNumberedAnew) {
+    CZvDispOrder order;
+    order.ClearLayerOrderMap();
+    order.SetLayerOrder(2147483647, E_LAYER_WELLS);
+    order.AddLayer(E_LAYER_CUSTOM);
+    EXPECT_EQ(Walk(order), (std::vector<int>{25, 90}));
+    EXPECT_EQ(order.GetLayerFromOrder(1), 90);
+}
+
 TEST(DrawOrder, AnEmptyOrderAnswersMinusOne) {
     CZvDispOrder order;
     order.ClearLayerOrderMap();

@@ -127,6 +127,14 @@ TEST(Layer, ACompositeCultureReachesTheMembersOfItsKey) {
     EXPECT_EQ(woken.GetGroupItem(0)->GetColor(), 5);
     EXPECT_EQ(woken.GetGroupItem(8)->GetColor(), 8);
     EXPECT_EQ(woken.GetColor(), 255);
+    m.map.GetDispLayer(L(2))->SetLineType(2, 1, 1, Cu(196608 + 7));
+    m.map.GetDispLayer(L(2))->SetLineWidth(3.0, 1, 1, Cu(196608 + 7));
+    const std::unique_ptr<CZvDisplayItem> again(m.map.GetItem(L(2), 1, 1, Cu(3), 10001));
+    auto& styled = static_cast<CZvDispGroup&>(*again);
+    EXPECT_EQ(styled.GetGroupItem(7)->GetLineType(), 2);
+    EXPECT_EQ(styled.GetGroupItem(7)->GetLineWidth(), 3);
+    EXPECT_EQ(styled.GetGroupItem(8)->GetLineType(), 0);
+    EXPECT_EQ(styled.GetGroupItem(8)->GetLineWidth(), 0);
 }
 
 TEST(Layer, SettersOfTheInterfaceWithoutEffect) {
@@ -171,6 +179,16 @@ TEST(Layer, ACopySharesTheTree) {
     CZvDispLayer copy(tree.Layer());
     EXPECT_EQ(copy.GetLayerName(), 25);
     EXPECT_EQ(copy.GetPost(3), tree.Layer().GetPost(3));
+}
+
+TEST(Layer, ANegativeCultureIsNotSplitInADraw) {
+    MapHome m;
+    zv::test::RecordingContext context;
+    context.traceTags = false;
+    m.AddCircle(1, 25, 1, 1, 65535);
+    m.map.SetContext(&context);
+    m.map.Draw(L(25), 1, 1, Cu(-1), false);
+    EXPECT_EQ(context.Take(), "open\nclose\n");
 }
 
 TEST(Layer, WithoutAContextADrawDoesNothing) {

@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <map>
+#include <stdexcept>
+
 #include "platform/zvcom/ZvLayerInfo.h"
 #include "support/LogLines.h"
 #include "support/MapHome.h"
@@ -113,31 +116,37 @@ TEST(Map, OtherContextsGetOnePassInDrawOrderWithAllCultures) {
     EXPECT_EQ(context.GetSettingsMgr(), &m.settings);
 }
 
-TEST(Map, AScreenGetsTwoPassesWithTheCataloguesCultures) {
+/// Draws a map with an item in every culture that any pass names for some layers, and in one that
+/// none names, and expects what the catalogue says for the target.
+void ExpectTwoPasses(CTX_TYPE type) {
+    const bool screen = type == CTX_OPENGL;
+    const int layers[] = {13, 3, 25, 15}; // 3 stands between 13 and 25 in draw order
     MapHome m;
-    RecordingContext context(CTX_METAFILE);
+    RecordingContext context(type);
     context.traceTags = false;
-    m.map.SetContext(&context);
-    // Everything that both passes name for two layers, and one culture in neither.
-    std::string expected = "open\n";
-    double x = 0;
     std::map<std::pair<int, int>, double> at;
-    for (const int layer : {13, 25})
-        for (const bool first : {true, false})
-            for (const int culture : CZvLayerInfo::S_GetLayerCultures(L(layer), first, false)) {
-                at[{layer, culture}] = ++x;
-                m.AddCircle(x, layer, 1, 1, culture);
-            }
+    for (const int layer : layers)
+        for (const int pass : {0, 1, 2, 3})
+            for (const int culture : CZvLayerInfo::S_GetLayerCultures(L(layer), pass % 2, pass / 2))
+                if (at.emplace(std::pair{layer, culture}, at.size() + 1).second)
+                    m.AddCircle(at[{layer, culture}], layer, 1, 1, culture);
     m.AddCircle(999, 25, 1, 1, 64999);
+    std::string expected = "open\n";
     for (const bool first : {true, false})
-        for (const int layer : {13, 25})
-            for (const int culture : CZvLayerInfo::S_GetLayerCultures(L(layer), first, false)) {
-                const std::string center = zv::FormatShortest(at[{layer, culture}]);
-                expected += "circle " + center + ",0 r 1 c8\n";
-            }
+        for (const int layer : layers)
+            for (const int culture : CZvLayerInfo::S_GetLayerCultures(L(layer), first, screen))
+                expected += "circle " + zv::FormatShortest(at[{layer, culture}]) + ",0 r 1 c8\n";
+    m.map.SetContext(&context);
     m.map.Draw(L(99), 99, 99, Cu(5), false);
-    EXPECT_EQ(context.Take(), expected + "close\n");
-    EXPECT_GT(x, 10);
+    EXPECT_EQ(context.Take(), expected + "close\n") << type;
+    EXPECT_GT(at.size(), 10u);
+}
+
+TEST(Map, TypesZeroToThreeGetTwoPassesWithTheCataloguesCultures) {
+    for (const CTX_TYPE type : {CTX_CGM, CTX_METAFILE, CTX_OPENGL, CTX_DXF})
+        ExpectTwoPasses(type);
+    EXPECT_NE(CZvLayerInfo::S_GetLayerCultures(L(25), false, true),
+              CZvLayerInfo::S_GetLayerCultures(L(25), true, true));
 }
 
 TEST(Map, ADrawOnceLayerDrawsWholeInTheSecondPass) {
@@ -153,18 +162,140 @@ TEST(Map, ADrawOnceLayerDrawsWholeInTheSecondPass) {
                               "culture 64999\ncircle 2,0 r 1 c8\nclose\n");
 }
 
+TEST(Map, ADrawOnceLayerStandsInTheSecondPassAtItsPlaceInTheOrder) {
+    MapHome m;
+    RecordingContext context(CTX_OPENGL);
+    context.traceTags = false;
+    m.map.SetContext(&context);
+    const auto backgrounds = CZvLayerInfo::S_GetLayerCultures(L(13), true, true);
+    const auto tops = CZvLayerInfo::S_GetLayerCultures(L(13), false, true);
+    ASSERT_FALSE(backgrounds.empty() || tops.empty());
+    ASSERT_TRUE(CZvLayerInfo::DrawOnce(L(2)));
+    m.AddCircle(1, 2, 1, 1, 450);
+    m.AddCircle(2, 13, 1, 1, tops.front());
+    m.AddCircle(3, 13, 1, 1, backgrounds.front());
+    m.map.Draw(L(99), 99, 99, Cu(900), false);
+    EXPECT_EQ(context.Take(),
+              "open\ncircle 3,0 r 1 c8\ncircle 2,0 r 1 c8\ncircle 1,0 r 1 c8\nclose\n");
+}
+
 TEST(Map, ALayerSwitchedOffIsNotDrawn) {
+    for (const CTX_TYPE type : {CTX_OTHER, CTX_OPENGL}) {
+        MapHome m;
+        RecordingContext context(type);
+        m.map.SetContext(&context);
+        m.AddCircle(1, 25, 1, 1, CZvLayerInfo::S_GetLayerCultures(L(25), false, true).front());
+        EXPECT_TRUE(m.map.GetLayerOn(L(25)));
+        m.settings.MakeLayerSettings(L(25)).SetBoolean("ON_OFF", false);
+        EXPECT_FALSE(m.map.GetLayerOn(L(25)));
+        for (const int layer : {99, 25}) {
+            m.map.Draw(L(layer), 99, 99, Cu(900), false);
+            EXPECT_EQ(context.Take(), "open\nclose\n");
+        }
+        m.map.SetSettingsMgr(nullptr);
+        EXPECT_TRUE(m.map.GetLayerOn(L(25)));
+    }
+}
+
+TEST(Map, OpensInOrderViewCursorSettingsOpen) {
+    struct Watching : RecordingContext {
+        void V_Open() override {
+            trace.push_back(GetSettingsMgr() ? "open with settings" : "open without");
+        }
+    };
+    MapHome m;
+    Watching context;
+    context.traceView = true;
+    m.map.SetContext(&context);
+    zv::SetCursorListener([&](int number) { context.trace.push_back(zv::FormatInt(number)); });
+    m.map.Draw(L(99), 99, 99, Cu(900), false);
+    EXPECT_EQ(context.Take(), "view 0,0 0,0\n32514\nopen with settings\nclose\n32512\n");
+    m.map.SetUseWaitCursor(false);
+    m.map.Draw(L(99), 99, 99, Cu(900), false);
+    zv::SetCursorListener({});
+    EXPECT_EQ(context.Take(), "view 0,0 0,0\nopen with settings\nclose\n");
+}
+
+TEST(Map, AnExceptionLeavesTheWaitCursorOnAndNoDisplayInfo) {
+    struct Throwing : RecordingContext {
+        void DrawCircle(CZvDispCircle&) override { throw std::runtime_error("full"); }
+    };
+    MapHome m;
+    Throwing context;
+    m.map.SetContext(&context);
+    auto* group = new CZvDispGroup;
+    group->AddPrimitive(7, new CZvDispCircle);
+    m.map.AddItem(group, L(2), 1, 1, Cu(3), false);
+    std::vector<int> cursors;
+    zv::SetCursorListener([&](int number) { cursors.push_back(number); });
+    EXPECT_THROW(m.map.Draw(L(2), 1, 1, Cu(3 * 65536 + 7), false), std::runtime_error);
+    zv::SetCursorListener({});
+    EXPECT_EQ(cursors, std::vector<int>{32514});
+    EXPECT_EQ(context.GetDispInfo(), nullptr);
+}
+
+TEST(Map, ARedrawReadsNothing) {
+    MapHome m;
+    RecordingContext context;
+    context.traceTags = false;
+    m.map.SetContext(&context);
+    m.AddCircle(1, 25, 1, 1, 220);
+    m.map.Redraw(L(99), 99, 99, Cu(900));
+    EXPECT_EQ(context.Take(), "open\nclose\n")
+        << "only display lists are replayed, and there are none";
+}
+
+TEST(Map, AContextForgetsTheMemoryControlsOfLayersThatGo) {
     MapHome m;
     RecordingContext context;
     m.map.SetContext(&context);
-    m.AddCircle(1, 25, 1, 1, 220);
-    EXPECT_TRUE(m.map.GetLayerOn(L(25)));
-    m.settings.MakeLayerSettings(L(25)).SetBoolean("ON_OFF", false);
-    EXPECT_FALSE(m.map.GetLayerOn(L(25)));
-    m.map.Draw(L(99), 99, 99, Cu(900), false);
-    EXPECT_EQ(context.Take(), "open\nclose\n");
-    m.map.SetSettingsMgr(nullptr);
-    EXPECT_TRUE(m.map.GetLayerOn(L(25)));
+    m.AddCircle(1, 25, 1, 1, 231);
+    m.AddCircle(1, 26, 1, 1, 658);
+    m.map.Draw(L(25), 99, 99, Cu(900), false);
+    EXPECT_NE(context.GetMemCtrl(), nullptr);
+    m.map.Clear(L(25));
+    EXPECT_EQ(context.GetMemCtrl(), nullptr);
+    m.map.SetLayerVisibility(L(26), true);
+    m.AddCircle(1, 3, 1, 1, 11);
+    m.map.Draw(L(3), 99, 99, Cu(900), false);
+    EXPECT_NE(context.GetMemCtrlExt(), nullptr);
+    m.map.Clear();
+    EXPECT_EQ(context.GetMemCtrlExt(), nullptr);
+    m.AddCircle(1, 3, 1, 1, 11);
+    m.map.Draw(L(3), 99, 99, Cu(900), false);
+    CZvDispMap other(nullptr);
+    other.SetContext(&context);
+    EXPECT_EQ(context.GetMemCtrl(), nullptr);
+}
+
+TEST(Map, LooksItemsUpByTheirID) {
+    MapHome m;
+    for (const char* id : {"608174000100", "608174000200", "608174000100"}) {
+        auto* circle = new CZvDispCircle;
+        circle->SetID(id);
+        m.map.AddItem(circle, L(25), 1, 1, Cu(220), false);
+    }
+    std::vector<unsigned>* ids = nullptr;
+    ASSERT_TRUE(m.map.LookUpItem(L(25), 1, 1, Cu(220), "608174000100", ids));
+    EXPECT_EQ(*ids, (std::vector<unsigned>{10001, 10003}));
+    EXPECT_FALSE(m.map.LookUpItem(L(25), 1, 1, Cu(220), "nobody", ids));
+    EXPECT_FALSE(m.map.LookUpItem(L(25), 1, 2, Cu(220), "608174000100", ids));
+    EXPECT_EQ(m.map.GetApiSndIdxVec(L(25), 1, 1, Cu(220)).size(), 2u);
+    EXPECT_TRUE(m.map.GetApiSndIdxVec(L(26), 1, 1, Cu(220)).empty());
+}
+
+TEST(Map, MissingStepsAndMissingScissorsDoNoHarm) {
+    MapHome m;
+    CZvDispCircle stranger;
+    EXPECT_FALSE(m.map.DeleteItem(&stranger, L(25), 1, 1, Cu(220)));
+    EXPECT_TRUE(m.map.GetUSetList(L(25), 1).empty());
+    EXPECT_TRUE(m.map.GetCultureList(L(25), 1, 1).empty());
+    for (int missing = 0; missing < 4; ++missing)
+        EXPECT_FALSE(m.map.DeleteItem(&stranger, L(missing == 0 ? -1 : 25), missing == 1 ? -1 : 1,
+                                      missing == 2 ? -1 : 1, Cu(missing == 3 ? -1 : 220)));
+    const std::unique_ptr<CZvDispMapClipper> before(m.map.GetScissors());
+    m.map.SetScissors(nullptr);
+    EXPECT_TRUE(m.AddCircle(1, 25, 1, 1, 220, true));
 }
 
 TEST(Map, PiecesOfTheTreeDrawAlone) {
@@ -206,7 +337,7 @@ TEST(Map, DoesNotTouchItsContextWhenItGoes) {
         m->AddCircle(1, 25, 1, 1, 220);
     }
     m.reset(); // the context is gone already
-    SUCCEED() << "the address sanitizer watches this";
+    EXPECT_EQ(m, nullptr) << "under the address sanitizer a touch of the context ends the test";
 }
 
 TEST(Map, EveryNodeHasTheContextAlsoTheNewest) {
@@ -362,6 +493,7 @@ TEST(MapDrawingFile, IsReadBackWithoutPolygonsAndCirclesOneColourLower) {
     EXPECT_EQ(item(10002)->GetColor(), 5);
     EXPECT_EQ(static_cast<CZvDispText&>(*item(10003)).GetLabel(), "A 1");
     EXPECT_EQ(item(10003)->GetLineWidth(), 1) << "a text's width is always read as 1";
+    EXPECT_EQ(item(10003)->GetLineType(), 1);
 }
 
 TEST(MapDrawingFile, TakesPlacesFromTheRecordsAndTheLastTailWhereOneIsMissing) {
@@ -378,6 +510,62 @@ TEST(MapDrawingFile, TakesPlacesFromTheRecordsAndTheLastTailWhereOneIsMissing) {
     EXPECT_EQ(m.map.GetLayerList(), std::vector<int>{25});
     EXPECT_EQ(m.map.GetCultureCount(L(25), 2, 3, Cu(220)), 2);
     EXPECT_TRUE(m.home.messages.GetShown().empty());
+}
+
+TEST(MapDrawingFile, AFolderCannotBeOpened) {
+    MapHome m;
+    const std::string folder = std::filesystem::path(m.home.TempFile("x")).parent_path();
+    m.map.Read(folder);
+    ASSERT_EQ(m.home.messages.GetShown().size(), 1u);
+    EXPECT_EQ(m.home.messages.GetShown()[0].text, "Could not open file:\n" + folder);
+}
+
+TEST(MapDrawingFile, IsWrittenInTheOrderOfTheTreesNumbers) {
+    MapHome m;
+    const int places[][4] = {
+        {26, 1, 1, 5}, {25, 2, 1, 5}, {25, 1, 2, 5}, {25, 1, 1, 6}, {25, 1, 1, 5}};
+    for (const auto& p : places)
+        m.AddCircle(p[0] * 1000 + p[1] * 100 + p[2] * 10 + p[3], p[0], p[1], p[2], p[3]);
+    const std::string path = m.home.TempFile("order.drw");
+    m.map.Write(path, L(99), 99, 99, Cu(900));
+    const std::string text = ReadText(path);
+    std::vector<int> centers;
+    for (std::size_t at = text.find("X:"); at != std::string::npos; at = text.find("X:", at + 1))
+        centers.push_back(static_cast<int>(zv::ParseDouble(text.substr(at + 2, 21))));
+    EXPECT_EQ(centers, (std::vector<int>{25115, 25116, 25125, 25215, 26115}));
+}
+
+TEST(MapDrawingFile, ReadsArcsAndTextsAndStepsOverDescriptionsAndStrangers) {
+    MapHome m;
+    CZvDispMap other(nullptr);
+    const std::string path = m.home.TempFile("kinds.drw");
+    m.map.AddItem(new CZvDispArc({1, 2}, 3.0, 10.0f, 100.0f), L(25), 1, 1, Cu(220), false);
+    m.map.Write(path, L(99), 99, 99, Cu(900));
+    std::string arc = ReadText(path);
+    arc.resize(arc.find("EOF:"));
+    zv::test::WriteText(path, "stranger without a colon\r\nODD:99 \r\nCTX: 5123NUM: 8" +
+                                  std::string(65, ' ') + "\r\nOil well" + std::string(72, ' ') +
+                                  "\r\n" + arc + arc.substr(0, 4) + "712" + arc.substr(7) +
+                                  "EOF:  120");
+    other.SetDispFilePath("Other");
+    other.Read(path);
+    ASSERT_EQ(other.GetCultureCount(L(0), 0, 0, Cu(0)), 2);
+    const std::unique_ptr<CZvDisplayItem> item(other.GetItem(L(0), 0, 0, Cu(0), 10002));
+    EXPECT_EQ(item->GetDispType(), ZV_DISP_ARC);
+    EXPECT_EQ(static_cast<CZvDispArc&>(*item).GetEndAngle(), 100.0f);
+}
+
+TEST(MapDrawingFile, ACoordinateLineThatLooksLikeARecordIsTakenForOne) {
+    MapHome m;
+    m.map.AddItem(new CZvDispPolygon(std::vector<CZvDispPoint>{{0, 10234567.0}, {1, 10234567.0}}),
+                  L(25), 1, 1, Cu(220), false);
+    const std::string path = m.home.TempFile("north.drw");
+    m.map.Write(path, L(99), 99, 99, Cu(900));
+    CZvDispMap other(nullptr);
+    other.SetDispFilePath("Other");
+    other.Read(path);
+    EXPECT_EQ(other.GetLayerList(), std::vector<int>{234})
+        << "\"Y:   1023 4567...\" reads as an arc";
 }
 
 TEST(MapDrawingFile, AnUnwritablePathFailsQuietly) {

@@ -248,6 +248,47 @@ TEST_F(DrawingBlock, ArcsAndCirclesComeBackOneColourLower) {
     EXPECT_EQ(back->GetCenter().GetY(), 2.0);
 }
 
+TEST_F(DrawingBlock, ACutNumberReadsBackAsAnother) {
+    CZvDispPolyLine line(std::vector<CZvDispPoint>{{0, 1}});
+    line.SetColor(C(1234), 0);
+    Read read(Written(line, true) + kEndOfBlock);
+    EXPECT_EQ(read.items.front()->GetColor(), 122) << "123 in the file, one-based";
+}
+
+TEST_F(DrawingBlock, ATypeOf100Or200ComesOutAs255) {
+    CZvDispPolyLine line(std::vector<CZvDispPoint>{{0, 1}});
+    for (const int type : {100, 200}) {
+        line.SetLineType(type, 0);
+        Read read(Written(line, true) + kEndOfBlock);
+        EXPECT_EQ(read.items.front()->GetLineType(), 255);
+    }
+}
+
+TEST_F(DrawingBlock, AFileEndMarkInALabelIsReplacedAndTold) {
+    zv::test::LogLines log;
+    CZvDispText text;
+    Labelled(text, "A\x1a"
+                   "B");
+    Read read(Written(text, true) + kEndOfBlock);
+    ASSERT_TRUE(read.ok);
+    EXPECT_EQ(read.First<CZvDispText>().GetLabel(), "A?B");
+    EXPECT_EQ(log.Get().size(), 1u);
+}
+
+TEST_F(DrawingBlock, ATextsWidthIsWrittenIntoItsOneBasedColour) {
+    CZvDispText text;
+    Labelled(text, "L");
+    text.SetColor(C(3), 0);
+    text.SetLineWidth(2, 0);
+    std::ostringstream out;
+    CZvDispFileParam file;
+    file.SetOutFile(&out);
+    text.DrwWrite(file);
+    EXPECT_EQ(out.str().substr(25, 7), "COL: 20") << "4 + 8 * 3 - 8";
+    EXPECT_EQ(text.GetColor(), 3);
+    EXPECT_EQ(text.GetLineWidth(), 2);
+}
+
 TEST_F(DrawingBlock, AnArcsEndIsItsStartAndTheRoundedSweep) {
     CZvDispArc arc({0, 0}, 1.0, 0.0f, 1.23456f);
     Read read(Written(arc, true) + kEndOfBlock);
@@ -269,13 +310,12 @@ TEST_F(DrawingBlock, ABlankFillIsTrueForACircleAndFalseForAPolygon) {
 
 TEST_F(DrawingBlock, TheTailFillsTheParametersAndLastsUntilTheNext) {
     CZvDispPolyLine line(std::vector<CZvDispPoint>{{0, 1}, {2, 3}});
-    for (CZvDisplayItem* item : std::initializer_list<CZvDisplayItem*>{&line}) {
-        Read read(Written(*item) + kEndOfBlock);
-        ASSERT_TRUE(read.ok);
-        EXPECT_EQ(read.file.GetPostNum(), 1);
-        EXPECT_EQ(read.file.GetUsetNum(), 2);
-        EXPECT_EQ(read.file.GetCulture(), 3);
-    }
+    Read read(Written(line) + Written(line, true) + kEndOfBlock);
+    ASSERT_TRUE(read.ok);
+    EXPECT_EQ(read.items.size(), 2u);
+    EXPECT_EQ(read.file.GetPostNum(), 1);
+    EXPECT_EQ(read.file.GetUsetNum(), 2);
+    EXPECT_EQ(read.file.GetCulture(), 3);
 }
 
 TEST_F(DrawingBlock, EveryKindsTailLeavesTheReaderAtTheNextRecord) {
@@ -405,18 +445,33 @@ TEST_F(DrawingBlock, DrwWriteWritesOneBasedAndPutsTheAttributesBack) {
 TEST(DrawingParameters, StartAtZeroAndCopyWhole) {
     CZvDispFileParam file;
     EXPECT_FALSE(file.IsSymbol());
-    EXPECT_EQ(file.GetCulture() + file.GetUsetNum() + file.GetPostNum() + file.GetLayerNum() +
-                  file.GetSymbolNum(),
-              0);
+    EXPECT_EQ(file.GetCulture(), 0);
+    EXPECT_EQ(file.GetUsetNum(), 0);
+    EXPECT_EQ(file.GetPostNum(), 0);
+    EXPECT_EQ(file.GetLayerNum(), 0);
+    EXPECT_EQ(file.GetSymbolNum(), 0);
     EXPECT_EQ(file.GetInFile(), nullptr);
     EXPECT_EQ(file.GetOutFile(), nullptr);
     file.SetSymbol(true);
     file.SetCulture(3);
     file.SetSymbolNum(51);
-    const CZvDispFileParam copy(file);
-    EXPECT_TRUE(copy.IsSymbol());
-    EXPECT_EQ(copy.GetCulture(), 3);
-    EXPECT_EQ(copy.GetSymbolNum(), 51);
+    file.SetUsetNum(4);
+    file.SetPostNum(5);
+    file.SetLayerNum(6);
+    std::istringstream in;
+    file.SetInFile(&in);
+    CZvDispFileParam assigned;
+    assigned = file;
+    for (const CZvDispFileParam& copy : {CZvDispFileParam(file), assigned}) {
+        EXPECT_TRUE(copy.IsSymbol());
+        EXPECT_EQ(copy.GetCulture(), 3);
+        EXPECT_EQ(copy.GetSymbolNum(), 51);
+        EXPECT_EQ(copy.GetUsetNum(), 4);
+        EXPECT_EQ(copy.GetPostNum(), 5);
+        EXPECT_EQ(copy.GetLayerNum(), 6);
+        EXPECT_EQ(copy.GetInFile(), &in);
+        EXPECT_EQ(copy.GetOutFile(), nullptr);
+    }
 }
 
 } // namespace

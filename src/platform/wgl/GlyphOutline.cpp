@@ -79,6 +79,35 @@ int CubicTo(const FT_Vector* control1, const FT_Vector* control2, const FT_Vecto
     return 0;
 }
 
+/// Distance of p from the segment a to b.
+double OffChord(const Point& p, const Point& a, const Point& b) {
+    const double dx = b[0] - a[0], dy = b[1] - a[1], length = dx * dx + dy * dy;
+    if (length == 0.0) return Distance(p, a);
+    const double t = ((p[0] - a[0]) * dx + (p[1] - a[1]) * dy) / length;
+    return Distance(p, Mix(a, b, std::clamp(t, 0.0, 1.0)));
+}
+
+bool IsStraight(const GlyphOutline::Contour& contour, std::size_t first, std::size_t last,
+                double deviation) {
+    for (std::size_t i = first + 1; i < last; ++i)
+        if (OffChord(contour[i], contour[first], contour[last]) > deviation) return false;
+    return true;
+}
+
+/// Leaves out points as long as the outline stays that near; fonts have more of them than small
+/// text needs.
+void Simplify(GlyphOutline::Contour& contour, double deviation) {
+    GlyphOutline::Contour kept;
+    for (std::size_t first = 0; first < contour.size();) {
+        kept.push_back(contour[first]);
+        std::size_t next = first + 1;
+        while (next + 1 < contour.size() && IsStraight(contour, first, next + 1, deviation))
+            ++next;
+        first = next;
+    }
+    if (kept.size() >= 3) contour = std::move(kept);
+}
+
 constexpr FT_Outline_Funcs kWalk = {MoveTo, LineTo, ConicTo, CubicTo, 0, 0};
 
 } // namespace
@@ -92,6 +121,8 @@ GlyphOutline LoadGlyphOutline(FT_FaceRec_* face, unsigned long character, double
     outline.advance = static_cast<double>(face->glyph->metrics.horiAdvance) * unit;
     Walk walk{outline, unit, deviation};
     FT_Outline_Decompose(&face->glyph->outline, &kWalk, &walk);
+    for (auto& contour : outline.contours)
+        Simplify(contour, deviation);
     return outline;
 }
 

@@ -4,9 +4,9 @@
 
 namespace zv {
 
-MatrixScope::MatrixScope(double x, double y, double scale) {
+MatrixScope::MatrixScope(double x, double y, double z, double scale) {
     glPushMatrix();
-    glTranslated(x, y, 0.0);
+    glTranslated(x, y, z);
     glScaled(scale, scale, 1.0);
 }
 

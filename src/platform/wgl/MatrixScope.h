@@ -6,7 +6,7 @@ namespace zv {
 /// the matrix at its end.
 class MatrixScope {
   public:
-    MatrixScope(double x, double y, double scale);
+    MatrixScope(double x, double y, double z, double scale);
     ~MatrixScope();
     MatrixScope(const MatrixScope&) = delete;
     MatrixScope& operator=(const MatrixScope&) = delete;

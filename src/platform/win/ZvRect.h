@@ -17,6 +17,6 @@ struct CPoint {
 struct CRect : RECT {
     CRect() = default;
     CRect(std::int32_t l, std::int32_t t, std::int32_t r, std::int32_t b) : RECT{l, t, r, b} {}
-    std::int32_t Width() const { return right - left; }
-    std::int32_t Height() const { return bottom - top; }
+    std::int32_t Width() const { return static_cast<std::int32_t>(std::int64_t{right} - left); }
+    std::int32_t Height() const { return static_cast<std::int32_t>(std::int64_t{bottom} - top); }
 };
