@@ -31,12 +31,10 @@ void ScratchFile::SetName(const std::string& name) {
     if (name == m_name) return;
     Close();
     m_name = name;
-    m_native.clear();
 }
 
 bool ScratchFile::IsOpen() {
-    std::error_code error;
-    if (m_file && !std::filesystem::exists(m_native, error)) CloseHandle();
+    if (m_file && !HasName(m_file)) CloseHandle();
     return m_file != nullptr;
 }
 
@@ -46,7 +44,7 @@ bool ScratchFile::OpenForWrite() {
     return true;
 }
 
-// Gives the file a handle. One handle serves both ways: each transfer seeks first.
+// Gives the file a handle. One handle serves both ways: each transfer names its place.
 bool ScratchFile::Ensure(bool create) {
     if (m_file) {
         Pool().splice(Pool().begin(), Pool(), m_inPool);
@@ -61,7 +59,6 @@ bool ScratchFile::Ensure(bool create) {
     }
     if (!m_file) return false;
     std::setvbuf(m_file, nullptr, _IONBF, 0);
-    m_native = NativePath(m_name);
     m_inPool = Pool().insert(Pool().begin(), this);
     return true;
 }
@@ -118,14 +115,11 @@ bool ScratchFile::Overwrite(std::uint64_t offset, std::span<const char> bytes) {
 }
 
 bool ScratchFile::WriteAt(std::uint64_t offset, std::span<const char> bytes) {
-    if (bytes.empty()) return true;
-    return fseeko(m_file, static_cast<off_t>(offset), SEEK_SET) == 0 &&
-           std::fwrite(bytes.data(), 1, bytes.size(), m_file) == bytes.size();
+    return bytes.empty() || zv::WriteAt(m_file, offset, bytes);
 }
 
 std::size_t ScratchFile::ReadAt(std::uint64_t offset, char* to, std::size_t size) {
-    if (!Ensure(false) || fseeko(m_file, static_cast<off_t>(offset), SEEK_SET) != 0) return 0;
-    return std::fread(to, 1, size, m_file);
+    return Ensure(false) ? zv::ReadAt(m_file, offset, {to, size}) : 0;
 }
 
 } // namespace zv

@@ -3,7 +3,6 @@
 #include <cstddef>
 #include <cstdint>
 #include <cstdio>
-#include <filesystem>
 #include <list>
 #include <span>
 #include <string>
@@ -71,7 +70,6 @@ class ScratchFile {
     bool WriteAt(std::uint64_t offset, std::span<const char> bytes);
 
     std::string m_name;
-    std::filesystem::path m_native; // where the file was opened last
     std::FILE* m_file = nullptr;
     std::list<ScratchFile*>::iterator m_inPool; // while m_file is open
     RecordWriter m_pending;

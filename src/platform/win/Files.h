@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cstdint>
 #include <cstdio>
 #include <filesystem>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,14 @@ ZVDISP_API std::filesystem::path NativePath(std::string_view path);
 
 /// fopen on NativePath(path); binary always. Null on failure, errno tells why.
 ZVDISP_API std::FILE* OpenFile(std::string_view path, const char* mode);
+
+/// Bytes of an open file at a place, whatever its stream's position: fewer than asked at the end of
+/// the file or on a fault. The stream must not buffer (setvbuf with _IONBF).
+ZVDISP_API std::size_t ReadAt(std::FILE* file, std::uint64_t offset, std::span<char> to);
+/// Writes bytes at a place; false when they could not be written in full.
+ZVDISP_API bool WriteAt(std::FILE* file, std::uint64_t offset, std::span<const char> bytes);
+/// Whether an open file still has a name on disk: false once it was deleted.
+ZVDISP_API bool HasName(std::FILE* file);
 
 /// Makes a folder and what is missing above it, private to the user where it is new. Errors are
 /// left to whoever opens a file in it. True when the folder exists afterwards.
