@@ -7,14 +7,9 @@
 
 namespace {
 
+using zv::test::Cu;
+using zv::test::L;
 using zv::test::MapHome;
-
-E_Layer L(int number) {
-    return static_cast<E_Layer>(number);
-}
-ZVCulture Cu(int number) {
-    return static_cast<ZVCulture>(number);
-}
 
 /// A map with one circle in each of posts 1 and 3, user sets 1 and 5, cultures 120 and 121 of
 /// layer 25.

@@ -10,6 +10,14 @@
 
 namespace zv::test {
 
+/// Numbers as layers and cultures.
+inline E_Layer L(int number) {
+    return static_cast<E_Layer>(number);
+}
+inline ZVCulture Cu(int number) {
+    return static_cast<ZVCulture>(number);
+}
+
 /// A map with settings, work folder and symbol library of its own.
 struct MapHome {
     MapHome() { home.WriteEmptyFiles(); }

@@ -66,4 +66,23 @@ inline std::string DrawingLines(const std::vector<std::string>& lines) {
     return text;
 }
 
+/// A symbol of one line from (0, 0) to (1, 2), zero-based colour 4, width 0, type 0.
+inline std::string LineSymbol(int number, const std::string& description = "") {
+    const std::string n = CZvDisplayItem::PadBlankToFront(std::to_string(number), 3);
+    std::vector<std::string> lines = {
+        "COV:" + n + "13 999LW:  1LT:  1COL:  5X:           0.00000000",
+        "Y:           0.00000000",
+        "COV2:  14X:           1.00000000Y:           2.00000000",
+    };
+    if (!description.empty()) {
+        lines.push_back("CTX:" + n + "23NUM:" +
+                        CZvDisplayItem::PadBlankToFront(std::to_string(description.size()), 2));
+        lines.push_back(description);
+    }
+    // The end of a symbol: EOF and its number, with code 20 and 71 blanks: 80 columns.
+    lines.push_back("EOF:" + n + "20");
+    return " SYMBOL # " + CZvDisplayItem::PadBlankToFront(std::to_string(number), 4) + "\r\n" +
+           DrawingLines(lines);
+}
+
 } // namespace zv::test
