@@ -56,6 +56,7 @@ struct Box {
         Add(place(other.minX, other.maxY));
         Add(place(other.maxX, other.maxY));
     }
+    Box Shifted(double dx, double dy) const { return {minX + dx, minY + dy, maxX + dx, maxY + dy}; }
     bool Meets(const Box& other) const {
         return minX <= other.maxX && maxX >= other.minX && minY <= other.maxY && maxY >= other.minY;
     }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "context/GlScene.h"
+#include "context/ListNames.h"
 #include "context/ZvDispGL.h"
 
 /// Keeps an item's list open.
@@ -16,3 +18,23 @@ class CZvDispGL::ListScope {
     CZvDispGL& m_context;
     CZvDisplayItem& m_item;
 };
+
+namespace zv {
+
+/// Gathers what is drawn as long as it lives, without any list, and draws it at its end.
+class TemporaryScope {
+  public:
+    explicit TemporaryScope(KeepBy keep) : m_scene(GlScene::Current()) {
+        if (m_scene) m_scene->Lists().NewList(kNoPickID, keep);
+    }
+    ~TemporaryScope() {
+        if (m_scene) m_scene->Lists().EndList();
+    }
+    TemporaryScope(const TemporaryScope&) = delete;
+    TemporaryScope& operator=(const TemporaryScope&) = delete;
+
+  private:
+    GlScene* m_scene;
+};
+
+} // namespace zv

@@ -2,6 +2,8 @@
 
 #include <GL/gl.h>
 
+#include <string>
+
 #include "context/ListNames.h"
 #include "context/StrokeFont.h"
 
@@ -20,6 +22,13 @@ GLenum ModeOf(Figure figure) {
     return GL_POINTS;
 }
 
+void CallCharacters(unsigned base, std::string_view text) {
+    glPushAttrib(GL_LIST_BIT);
+    glListBase(base);
+    glCallLists(static_cast<GLsizei>(text.size()), GL_UNSIGNED_BYTE, text.data());
+    glPopAttrib();
+}
+
 } // namespace
 
 void GlSink::Color(double r, double g, double b, double alpha) {
@@ -34,12 +43,16 @@ void GlSink::Width(double pixels) {
 }
 
 void GlSink::Stipple(std::uint16_t pattern) {
+    if (pattern == kSolidLine && m_dashes == Dashes::Off) return;
+    m_dashes = Dashes::On;
     m_afterLine = false;
     glEnable(GL_LINE_STIPPLE);
     glLineStipple(1, pattern);
 }
 
 void GlSink::StippleOff() {
+    if (m_dashes == Dashes::Off) return;
+    m_dashes = Dashes::Off;
     m_afterLine = false;
     glDisable(GL_LINE_STIPPLE);
 }
@@ -82,24 +95,30 @@ void GlSink::End() {
 
 void GlSink::Push(const Affine& place) {
     const Point2 origin = Origin();
-    const GLdouble matrix[16] = {place.a,
-                                 place.b,
-                                 0,
-                                 0,
-                                 place.c,
-                                 place.d,
-                                 0,
-                                 0,
-                                 0,
-                                 0,
-                                 1,
-                                 0,
-                                 place.tx - origin.x,
-                                 place.ty - origin.y,
-                                 0,
-                                 1};
     glPushMatrix();
-    glMultMatrixd(matrix);
+    if (place.b == 0.0 && place.c == 0.0) {
+        glTranslatef(static_cast<float>(place.tx - origin.x),
+                     static_cast<float>(place.ty - origin.y), 0.0f);
+        glScalef(static_cast<float>(place.a), static_cast<float>(place.d), 1.0f);
+    } else {
+        const GLdouble matrix[16] = {place.a,
+                                     place.b,
+                                     0,
+                                     0,
+                                     place.c,
+                                     place.d,
+                                     0,
+                                     0,
+                                     0,
+                                     0,
+                                     1,
+                                     0,
+                                     place.tx - origin.x,
+                                     place.ty - origin.y,
+                                     0,
+                                     1};
+        glMultMatrixd(matrix);
+    }
     ++m_depth;
     m_afterLine = false;
 }
@@ -111,20 +130,16 @@ void GlSink::Pop() {
 }
 
 void GlSink::StrokeText(std::string_view text) {
-    for (const char c : text) {
-        const auto code = static_cast<unsigned char>(c);
-        if (StrokeGlyph(code).empty()) continue;
-        glCallList(kCharacterLists + code);
-        glTranslatef(6.0f, 0.0f, 0.0f);
-    }
+    // One command for the whole text: the driver takes the longer to keep a list the more there
+    // are.
+    std::string known(text);
+    std::erase_if(known, [](char c) { return StrokeGlyph(static_cast<unsigned char>(c)).empty(); });
+    CallCharacters(kSteppingLists, known);
 }
 
 void GlSink::OutlineText(int style, std::string_view text) {
     if (m_setup.fontBase == 0) return;
-    glPushAttrib(GL_LIST_BIT);
-    glListBase(m_setup.fontBase + static_cast<unsigned>(style) * kFontBlock);
-    glCallLists(static_cast<GLsizei>(text.size()), GL_UNSIGNED_BYTE, text.data());
-    glPopAttrib();
+    CallCharacters(m_setup.fontBase + static_cast<unsigned>(style) * kFontBlock, text);
 }
 
 void GlSink::SymbolShape(int number) {

@@ -18,7 +18,13 @@ class GlSink final : public DrawSink {
     };
     explicit GlSink(const Setup& setup) : m_setup(setup) {}
     /// Holds from the next call on.
-    void SetUp(const Setup& setup) { m_setup = setup; }
+    void SetUp(const Setup& setup) {
+        m_setup = setup;
+        m_dashes = Dashes::Unknown;
+    }
+    /// Promises that no stipple is on, so that solid lines need no command: the driver takes the
+    /// longer to keep a list the more commands there are.
+    void AssumeSolid() { m_dashes = Dashes::Off; }
 
     void Color(double r, double g, double b, double alpha) override;
     void Width(double pixels) override;
@@ -35,11 +41,16 @@ class GlSink final : public DrawSink {
     void OutlineText(int style, std::string_view text) override;
     void SymbolShape(int number) override;
 
+    /// Whether a placement holds.
+    bool IsPlaced() const { return m_depth > 0; }
+
   private:
     Point2 Origin() const { return m_depth == 0 ? m_setup.origin : Point2{}; }
 
     Setup m_setup;
     int m_depth = 0;
+    enum class Dashes { Unknown, Off, On };
+    Dashes m_dashes = Dashes::Unknown;
     bool m_afterLine = false; // nothing stands between the last line and what comes
 };
 

@@ -2,6 +2,7 @@
 
 #include <GL/gl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "context/ListNames.h"
@@ -26,14 +27,17 @@ GlSink::Setup ItemLists::GlSetup() const {
     return {m_view.Origin(), m_fontBase, true};
 }
 
-ItemLists::Open ItemLists::OpenFor(unsigned id, Keep keep) {
-    if (id == kNoPickID) return {id, keep == Keep::Recording && !IsListOpenInDriver(), false};
+ItemLists::Open ItemLists::OpenFor(unsigned id, KeepBy keep) {
+    if (id == kNoPickID) {
+        const bool placed = m_direct.IsPlaced() || IsListOpenInDriver();
+        return {id, keep == KeepBy::Recording && !placed, false};
+    }
     const bool driver =
-        keep == Keep::DriverOnly || (m_driverLists < kDriverLists && !IsReservedForShapes(id));
-    return {id, keep == Keep::Recording, driver};
+        keep == KeepBy::DriverOnly || (m_driverLists < kDriverLists && !IsReservedForShapes(id));
+    return {id, keep == KeepBy::Recording, driver};
 }
 
-void ItemLists::NewList(unsigned id, Keep keep) {
+void ItemLists::NewList(unsigned id, KeepBy keep) {
     if (m_depth++ > 0) return;
     if (id != kNoPickID) DeleteList(id);
     m_open = OpenFor(id, keep);
@@ -43,7 +47,7 @@ void ItemLists::NewList(unsigned id, Keep keep) {
         Flush();
     m_driverOnly |= !m_open.records;
     if (m_open.driver) glNewList(id, GL_COMPILE);
-    m_gl.emplace(GlSetup());
+    m_gl.emplace(GlSetup()).AssumeSolid();
     m_tee.emplace(*m_gl, m_recorder);
     if (!m_open.records)
         m_sink = &*m_gl;
@@ -64,9 +68,7 @@ void ItemLists::EndList() {
     }
     const Box box = m_shapes.BoundsOf(m_recorder.Words());
     const Point2 origin = m_recorder.Origin();
-    Box onMap;
-    onMap.Add(box, Affine::Shift(origin.x, origin.y));
-    Play(m_recorder.Words(), origin, onMap);
+    Play(m_recorder.Words(), origin, box.Shifted(origin.x, origin.y));
     Flush();
 }
 
@@ -102,7 +104,7 @@ void ItemLists::DeleteList(unsigned id) {
     ItemEntry* entry = m_directory.Find(id);
     if (entry && entry->present)
         Forget(id, *entry);
-    else if (glIsList(id))
+    else if (!IsReservedForShapes(id) && glIsList(id))
         glDeleteLists(id, 1);
 }
 
@@ -155,10 +157,11 @@ void ItemLists::Play(std::span<const std::uint32_t> words, const Point2& origin,
     if (box.IsEmpty() || !matrix.visible.Meets(box)) return;
     if (!m_batch.IsOpen()) m_batch.Open(matrix);
     const Point2 at{origin.x - matrix.center.x, origin.y - matrix.center.y};
-    Box relative;
-    relative.Add(box, Affine::Shift(-matrix.center.x, -matrix.center.y));
+    const Box relative = box.Shifted(-matrix.center.x, -matrix.center.y);
     const Box* limits = matrix.safe.Holds(relative) ? nullptr : &matrix.safe;
-    m_player.Play(words, Affine::Shift(at.x, at.y), limits);
+    m_batch.SetRegion(relative);
+    m_player.Play(words, Affine::Shift(at.x, at.y), std::min(matrix.pixel.x, matrix.pixel.y),
+                  limits);
     if (!m_replaying) Flush();
 }
 

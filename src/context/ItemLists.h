@@ -11,6 +11,10 @@
 
 namespace zv {
 
+/// Where an item's calls are kept. DriverOnly is for contexts that call OpenGL themselves while
+/// they draw an item.
+enum class KeepBy { Recording, DriverOnly };
+
 /// The display lists of items, named by their pick IDs, in one rendering context.
 ///
 /// Every item is kept as a recording, from which it is drawn: exact at any zoom, skipped where it
@@ -22,15 +26,12 @@ class ItemLists {
   public:
     static constexpr std::size_t kDriverLists = 100'000;
 
-    /// Where an item's calls are kept. DriverOnly is for contexts that call OpenGL themselves while
-    /// they draw an item.
-    enum class Keep { Recording, DriverOnly };
-
     ItemLists(const ScreenView& view, const ShapeLibrary& shapes, LookTable& looks);
 
-    /// Opens the item's list in place of what it was, or, under kNoPickID, draws at once what
-    /// comes. Inside a list that is open it counts only: members go into it.
-    void NewList(unsigned id, Keep keep = Keep::Recording);
+    /// Opens the item's list in place of what it was; what comes under
+    /// kNoPickID is drawn as the list ends. Inside a list that is open it counts only: members go
+    /// into it.
+    void NewList(unsigned id, KeepBy keep = KeepBy::Recording);
     void EndList();
     /// Draws the list; false when there is none.
     bool CallList(unsigned id);
@@ -72,7 +73,7 @@ class ItemLists {
     static constexpr unsigned kNoId = 0xFFFFFFFFu;
 
     GlSink::Setup GlSetup() const;
-    Open OpenFor(unsigned id, Keep keep);
+    Open OpenFor(unsigned id, KeepBy keep);
     void Forget(unsigned id, ItemEntry& entry);
     void Enter(const Open& open);
     void Play(std::span<const std::uint32_t> words, const Point2& origin, const Box& box);

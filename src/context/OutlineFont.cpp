@@ -19,12 +19,12 @@ constexpr std::array<Style, kFontStyles> kStyles = {
 constexpr int kFirstStyle = 100;
 constexpr float kDeviation = 0.0f, kExtrusion = 0.15f;
 
-/// Names for all styles. The driver offers what lies behind the highest name in use, which is where
-/// the items of tomorrow are; then a place of our own is taken.
+/// Names for all styles. Where the driver offers those of tomorrow's items, a place of our own is
+/// taken.
 unsigned GenFontLists() {
     constexpr unsigned count = kFontBlock * kFontStyles;
     const unsigned base = glGenLists(count);
-    if (base != 0 && base + count <= kSymbolLists) return base;
+    if (IsFreeForFonts(base, count)) return base;
     if (base != 0) glDeleteLists(base, count);
     return kFontLists;
 }
@@ -60,8 +60,7 @@ bool OutlineFont::CreateGLList(std::size_t style) {
         wglUseFontOutlinesA(dc, 0, kFontBlock, m_base + static_cast<unsigned>(style) * kFontBlock,
                             kDeviation, kExtrusion, WGL_FONT_POLYGONS, metrics.data());
     SelectFont(dc, former);
-    if (made)
-        GlScene::Current()->Shapes().SetMeshes(style, LoadGlyphMeshes(m_fonts[style], kDeviation));
+    if (made) GlScene::Current()->Shapes().SetFont(style, m_fonts[style]);
     return made;
 }
 

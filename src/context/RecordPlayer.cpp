@@ -1,6 +1,7 @@
 #include "context/RecordPlayer.h"
 
 #include <algorithm>
+#include <cmath>
 
 #include "context/CutLine.h"
 
@@ -20,9 +21,10 @@ ScreenVertex ToScreen(const Point2& p, std::uint32_t rgba) {
 
 } // namespace
 
-void RecordPlayer::Play(std::span<const std::uint32_t> words, const Affine& place,
+void RecordPlayer::Play(std::span<const std::uint32_t> words, const Affine& place, double pixel,
                         const Box* limits) {
     m_limits = limits;
+    m_pixel = pixel;
     PlayWithin(words, place, Look{});
 }
 
@@ -81,9 +83,11 @@ void RecordPlayer::PlayStrokeText(const RecordedCall& call, const Affine& place,
 
 void RecordPlayer::PlayOutlineText(const RecordedCall& call, const Affine& place,
                                    const Look& look) {
-    const GlyphMeshes* meshes = m_shapes.Meshes(call.Number());
-    if (!meshes) return;
     const Affine text = place * call.Place();
+    const double em = std::sqrt(std::fabs(text.a * text.d - text.b * text.c));
+    const GlyphMeshes* meshes =
+        m_shapes.Meshes(call.Number(), m_pixel > 0.0 ? em / m_pixel : HUGE_VAL);
+    if (!meshes) return;
     WalkOutlineText(*meshes, call.Text(), [&](const GlyphMesh& mesh, double x) {
         const float* xy = mesh.triangles.data();
         const auto at = [&](std::size_t i) { return text(xy[2 * i] + x, xy[2 * i + 1]); };

@@ -16,9 +16,10 @@ class RecordPlayer {
     RecordPlayer(const LookTable& looks, const ShapeLibrary& shapes, ScreenBatch& batch)
         : m_looks(looks), m_shapes(shapes), m_batch(batch) {}
 
-    /// `place` takes the recording's units to those of the screen matrix. Lines are cut to `limits`
-    /// when it is given.
-    void Play(std::span<const std::uint32_t> words, const Affine& place, const Box* limits);
+    /// `place` takes the recording's units to those of the screen matrix, of which `pixel` are one
+    /// pixel (0: unknown). Lines are cut to `limits` when it is given.
+    void Play(std::span<const std::uint32_t> words, const Affine& place, double pixel,
+              const Box* limits);
 
   private:
     void PlayWithin(std::span<const std::uint32_t> words, const Affine& place, const Look& outer);
@@ -37,6 +38,7 @@ class RecordPlayer {
     const ShapeLibrary& m_shapes;
     ScreenBatch& m_batch;
     const Box* m_limits = nullptr;
+    double m_pixel = 0.0;
     int m_depth = 0; // symbols inside symbols
 };
 

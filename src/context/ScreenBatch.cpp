@@ -9,12 +9,14 @@
 namespace zv {
 
 namespace {
-/// Vertices of a bundle; a single figure may bring more.
-constexpr std::size_t kBundle = 96 * 1024;
+/// Vertices that are gathered before they are drawn; a single figure may bring more.
+constexpr std::size_t kMostGathered = 128 * 1024;
 } // namespace
 
 void ScreenBatch::Open(const ScreenMatrix& matrix) {
     m_open = true;
+    m_region = {};
+    m_grid.Reset(matrix);
     glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT |
                  GL_TRANSFORM_BIT);
     glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
@@ -40,69 +42,96 @@ ScreenBatch::State ScreenBatch::StateFor(Shape shape, const Look& look) {
     return {shape, look.width, look.stipple, Compose::Replace};
 }
 
-ScreenVertex* ScreenBatch::Reserve(Shape shape, const Look& look, std::size_t most) {
-    const State state = StateFor(shape, look);
-    if (!(state == m_state) || m_used + most > m_vertices.size()) {
-        Flush();
-        m_state = state;
-        if (m_vertices.size() < most) m_vertices.resize(std::max(most, kBundle));
+int ScreenBatch::FindBundle(const State& state, int first) const {
+    for (int i = m_count - 1; i >= first; --i)
+        if (m_bundles[static_cast<std::size_t>(i)].state == state) return i;
+    return -1;
+}
+
+int ScreenBatch::BundleFor(const State& state) {
+    const auto cells = m_grid.CellsOf(m_region, state.width / 2.0 + 1.0);
+    int bundle = FindBundle(state, m_grid.FirstFor(cells));
+    if (bundle < 0) {
+        if (m_count == OverlapGrid::kMostBundles) Flush();
+        bundle = m_count++;
+        if (m_bundles.size() < static_cast<std::size_t>(m_count)) m_bundles.emplace_back();
+        m_bundles[static_cast<std::size_t>(bundle)].state = state;
     }
-    return m_vertices.data() + m_used;
+    m_grid.Mark(cells, bundle);
+    return bundle;
+}
+
+ScreenVertex* ScreenBatch::Reserve(Shape shape, const Look& look, std::size_t most) {
+    if (m_gathered > kMostGathered) Flush();
+    m_current = BundleFor(StateFor(shape, look));
+    Bundle& bundle = m_bundles[static_cast<std::size_t>(m_current)];
+    if (bundle.used + most > bundle.vertices.size())
+        bundle.vertices.resize(std::max(bundle.used + most, 2 * bundle.vertices.size()));
+    return bundle.vertices.data() + bundle.used;
 }
 
 void ScreenBatch::Commit(std::size_t used) {
-    if (m_state.shape == Shape::LineStrips) {
-        m_firsts.push_back(static_cast<int>(m_used));
-        m_counts.push_back(static_cast<int>(used));
+    Bundle& bundle = m_bundles[static_cast<std::size_t>(m_current)];
+    if (bundle.state.shape == Shape::LineStrips) {
+        bundle.firsts.push_back(static_cast<int>(bundle.used));
+        bundle.counts.push_back(static_cast<int>(used));
     }
-    m_used += used;
+    bundle.used += used;
+    m_gathered += used;
 }
 
 void ScreenBatch::Flush() {
-    if (m_used == 0) return;
-    Apply();
-    if (m_state.compose == Compose::Replace)
-        Draw();
-    else
-        DrawComposed();
-    m_used = 0;
-    m_firsts.clear();
-    m_counts.clear();
-    if (m_vertices.size() > kBundle) m_vertices = {};
+    for (int i = 0; i < m_count; ++i) {
+        Bundle& bundle = m_bundles[static_cast<std::size_t>(i)];
+        Apply(bundle.state);
+        if (bundle.state.compose == Compose::Replace)
+            Draw(bundle);
+        else
+            DrawComposed(bundle);
+        bundle.used = 0;
+        bundle.firsts.clear();
+        bundle.counts.clear();
+        if (bundle.vertices.size() > kMostGathered) bundle.vertices = {};
+    }
+    m_count = 0;
+    m_gathered = 0;
+    m_grid.Reset();
 }
 
-void ScreenBatch::Apply() const {
-    glLineWidth(m_state.width);
-    if (m_state.stipple == kSolidLine) {
+void ScreenBatch::Apply(const State& state) {
+    glLineWidth(state.width);
+    if (state.stipple == kSolidLine) {
         glDisable(GL_LINE_STIPPLE);
     } else {
         glEnable(GL_LINE_STIPPLE);
-        glLineStipple(1, m_state.stipple);
+        glLineStipple(1, state.stipple);
     }
 }
 
-void ScreenBatch::DrawComposed() const {
+void ScreenBatch::DrawComposed(const Bundle& bundle) {
     glPushAttrib(GL_ENABLE_BIT | GL_COLOR_BUFFER_BIT);
-    if (m_state.compose == Compose::Blend) {
+    if (bundle.state.compose == Compose::Blend) {
         glEnable(GL_BLEND);
         glBlendFunc(GL_SRC_ALPHA, GL_ONE_MINUS_SRC_ALPHA);
-    } else if (m_state.compose == Compose::Xor) {
+    } else {
         glEnable(GL_COLOR_LOGIC_OP);
         glLogicOp(GL_XOR);
     }
-    Draw();
+    Draw(bundle);
     glPopAttrib();
 }
 
-void ScreenBatch::Draw() const {
-    glVertexPointer(2, GL_FLOAT, sizeof(ScreenVertex), &m_vertices.data()->x);
-    glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(ScreenVertex), &m_vertices.data()->rgba);
-    if (m_state.shape == Shape::LineStrips)
-        glMultiDrawArrays(GL_LINE_STRIP, m_firsts.data(), m_counts.data(),
-                          static_cast<GLsizei>(m_counts.size()));
+void ScreenBatch::Draw(const Bundle& bundle) {
+    const ScreenVertex* vertices = bundle.vertices.data();
+    if (bundle.used == 0) return;
+    glVertexPointer(2, GL_FLOAT, sizeof(ScreenVertex), &vertices->x);
+    glColorPointer(4, GL_UNSIGNED_BYTE, sizeof(ScreenVertex), &vertices->rgba);
+    if (bundle.state.shape == Shape::LineStrips)
+        glMultiDrawArrays(GL_LINE_STRIP, bundle.firsts.data(), bundle.counts.data(),
+                          static_cast<GLsizei>(bundle.counts.size()));
     else
-        glDrawArrays(m_state.shape == Shape::Lines ? GL_LINES : GL_TRIANGLES, 0,
-                     static_cast<GLsizei>(m_used));
+        glDrawArrays(bundle.state.shape == Shape::Lines ? GL_LINES : GL_TRIANGLES, 0,
+                     static_cast<GLsizei>(bundle.used));
 }
 
 } // namespace zv

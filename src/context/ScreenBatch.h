@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "context/Look.h"
+#include "context/OverlapGrid.h"
 #include "context/ScreenView.h"
 
 namespace zv {
@@ -13,7 +14,8 @@ struct ScreenVertex {
     std::uint32_t rgba;
 };
 
-/// Gathers figures that share their state and hands each bundle to OpenGL in one call. While it is
+/// Gathers figures that share their state and hands each bundle to OpenGL in one call. Figures that
+/// overlap on the screen are drawn in the order in which they came; others need not be. While it is
 /// open the OpenGL state is its own.
 class ScreenBatch {
   public:
@@ -24,7 +26,9 @@ class ScreenBatch {
     /// Draws what is gathered and puts the state back.
     void Close();
 
-    /// Room for so many vertices of that shape and look, behind what came before.
+    /// What the figures to come cover, relative to the matrix' center.
+    void SetRegion(const Box& region) { m_region = region; }
+    /// Room for so many vertices of that shape and look.
     ScreenVertex* Reserve(Shape shape, const Look& look, std::size_t most);
     /// Takes the first `used` of them; of line strips, as one strip.
     void Commit(std::size_t used);
@@ -38,17 +42,27 @@ class ScreenBatch {
         Compose compose = Compose::Replace;
         bool operator==(const State&) const = default;
     };
+    struct Bundle {
+        State state;
+        std::vector<ScreenVertex> vertices; // room, of which `used` are taken
+        std::size_t used = 0;
+        std::vector<int> firsts, counts;
+    };
     static State StateFor(Shape shape, const Look& look);
+    static void Apply(const State& state);
+    static void Draw(const Bundle& bundle);
+    static void DrawComposed(const Bundle& bundle);
+    int FindBundle(const State& state, int first) const;
+    int BundleFor(const State& state);
     void Flush();
-    void Apply() const;
-    void Draw() const;
-    void DrawComposed() const;
 
     bool m_open = false;
-    State m_state;
-    std::vector<ScreenVertex> m_vertices;
-    std::size_t m_used = 0;
-    std::vector<int> m_firsts, m_counts;
+    Box m_region;
+    OverlapGrid m_grid;
+    std::vector<Bundle> m_bundles; // of which m_count are in use
+    int m_count = 0;
+    int m_current = 0;
+    std::size_t m_gathered = 0; // vertices
 };
 
 } // namespace zv

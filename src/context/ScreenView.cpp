@@ -79,6 +79,8 @@ void ScreenView::AddVisible(ScreenMatrix& matrix, const Matrix& projection) cons
     if (!IsUpright(projection)) return;
     GLint viewport[4] = {};
     glGetIntegerv(GL_VIEWPORT, viewport);
+    matrix.pixel = {std::fabs(m_width) / std::max(viewport[2], 1),
+                    std::fabs(m_height) / std::max(viewport[3], 1)};
     const double marginX = 2.0 * kMargin / std::max(viewport[2], 1);
     const double marginY = 2.0 * kMargin / std::max(viewport[3], 1);
     const auto x = VisibleRange(projection[0], projection[12], marginX);

@@ -17,6 +17,8 @@ struct ScreenMatrix {
     Box visible{-HUGE_VAL, -HUGE_VAL, HUGE_VAL, HUGE_VAL};
     /// Part of the plane, relative to the center, in which single precision is good enough.
     Box safe{-HUGE_VAL, -HUGE_VAL, HUGE_VAL, HUGE_VAL};
+    /// Map units of a pixel; 0 when unknown.
+    Point2 pixel;
 };
 
 /// The map's window on the screen in double precision, and the origin near the data that vertices

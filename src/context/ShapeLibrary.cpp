@@ -6,6 +6,17 @@
 
 namespace zv {
 
+namespace {
+
+/// Deviation of outlines in ems for text below that size: a sixth of a pixel at most.
+struct MeshLevel {
+    float deviation;
+    double pixels;
+};
+constexpr MeshLevel kMeshLevels[] = {{0.0f, HUGE_VAL}, {0.01f, 16.0}, {0.05f, 4.0}};
+
+} // namespace
+
 void ShapeLibrary::SetSymbol(int number, std::span<const std::uint32_t> words) {
     Shape& shape = m_symbols[number];
     shape.words.assign(words.begin(), words.end());
@@ -17,12 +28,18 @@ const ShapeLibrary::Shape* ShapeLibrary::Symbol(int number) const {
     return found == m_symbols.end() ? nullptr : &found->second;
 }
 
-void ShapeLibrary::SetMeshes(std::size_t style, std::shared_ptr<const GlyphMeshes> meshes) {
-    m_meshes[style] = std::move(meshes);
+void ShapeLibrary::SetFont(std::size_t style, const FontRequest& font) {
+    m_styles[style] = {font, true, {}};
 }
 
-const GlyphMeshes* ShapeLibrary::Meshes(std::size_t style) const {
-    return style < m_meshes.size() ? m_meshes[style].get() : nullptr;
+const GlyphMeshes* ShapeLibrary::Meshes(std::size_t style, double pixels) const {
+    if (style >= m_styles.size() || !m_styles[style].isSet) return nullptr;
+    std::size_t level = 0;
+    while (level + 1 < kLevels && pixels < kMeshLevels[level + 1].pixels)
+        ++level;
+    auto& meshes = m_styles[style].levels[level];
+    if (!meshes) meshes = LoadGlyphMeshes(m_styles[style].font, kMeshLevels[level].deviation);
+    return meshes.get();
 }
 
 void ShapeLibrary::AddText(Box& box, const RecordedCall& call) const {
@@ -31,7 +48,7 @@ void ShapeLibrary::AddText(Box& box, const RecordedCall& call) const {
         WalkStrokeText(call.Text(), [&](const StrokeShape& shape, double x) {
             ink.Add(shape.box, Affine::Shift(x, 0.0));
         });
-    } else if (const GlyphMeshes* meshes = Meshes(call.Number())) {
+    } else if (const GlyphMeshes* meshes = Meshes(call.Number(), HUGE_VAL)) {
         WalkOutlineText(*meshes, call.Text(), [&](const GlyphMesh& mesh, double x) {
             ink.Add(Box{mesh.minX, mesh.minY, mesh.maxX, mesh.maxY}, Affine::Shift(x, 0.0));
         });

@@ -25,9 +25,11 @@ class ShapeLibrary {
     /// Null for a symbol without a shape. Borrowed until the next SetSymbol.
     const Shape* Symbol(int number) const;
 
-    /// Styles of the outline font; null for none.
-    void SetMeshes(std::size_t style, std::shared_ptr<const GlyphMeshes> meshes);
-    const GlyphMeshes* Meshes(std::size_t style) const;
+    /// A style of the outline font.
+    void SetFont(std::size_t style, const FontRequest& font);
+    /// Its characters; null for a style that was not set. `pixels`: how tall the em is on the
+    /// screen, for which the outlines are true enough.
+    const GlyphMeshes* Meshes(std::size_t style, double pixels) const;
 
     /// What a recording covers, relative to its origin, without the width of its lines.
     Box BoundsOf(std::span<const std::uint32_t> words) const;
@@ -37,7 +39,13 @@ class ShapeLibrary {
     void AddText(Box& box, const struct RecordedCall& call) const;
 
     std::unordered_map<int, Shape> m_symbols;
-    std::array<std::shared_ptr<const GlyphMeshes>, 4> m_meshes;
+    static constexpr std::size_t kLevels = 3;
+    struct Style {
+        FontRequest font;
+        bool isSet = false;
+        mutable std::array<std::shared_ptr<const GlyphMeshes>, kLevels> levels;
+    };
+    std::array<Style, 4> m_styles;
 };
 
 /// The pen's way through a text: place(character, x) for every character that the font has.

@@ -103,6 +103,8 @@ bool CZvDispGL::Resize(double x, double y, double width, double height) {
 
 void CZvDispGL::SetView(CZvDispPoint& lowerLeft, CZvDispPoint& upperRight) {
     Start();
+    // A draw that an exception ended leaves its redraws gathered.
+    if (auto* scene = zv::GlScene::Current()) scene->Lists().EndReplay();
     glLoadIdentity();
     GLViewport();
     GLClear(GL_COLOR_BUFFER_BIT);

@@ -10,7 +10,7 @@
 namespace zv {
 class DrawSink;
 class OutlineFont;
-struct Affine;
+enum class KeepBy;
 } // namespace zv
 
 /// The screen driver. Every item drawn is compiled into a display list named by its pick ID, so
@@ -128,6 +128,7 @@ class ZVDISP_API CZvDispGL : public CZvDisplayContext {
 
   private:
     class ListScope;
+    zv::KeepBy KeepItemsBy() const;
     bool MakePixelFormat();
     bool MakeContextCurrent();
     std::array<double, 3> ItemRGB(CZvDisplayItem& item, double inactive);

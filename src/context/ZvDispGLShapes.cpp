@@ -41,6 +41,10 @@ std::vector<double> ClosedTriples(const std::vector<CZvDispPoint>& ring) {
 
 } // namespace
 
+zv::KeepBy CZvDispGL::KeepItemsBy() const {
+    return m_recordItems ? zv::KeepBy::Recording : zv::KeepBy::DriverOnly;
+}
+
 void CZvDispGL::GLNewList(CZvDisplayItem& item) {
     auto* scene = zv::GlScene::Current();
     if (!scene) return;
@@ -49,8 +53,7 @@ void CZvDispGL::GLNewList(CZvDisplayItem& item) {
     if (!m_symbolsBuilt && !m_buildingSymbols && !scene->Lists().IsOpen() &&
         (kind == ZV_DISP_SYMBOL || kind == ZV_DISP_GROUP))
         CreateSymbolDisplayList();
-    scene->Lists().NewList(item.GetPickID(), m_recordItems ? zv::ItemLists::Keep::Recording
-                                                           : zv::ItemLists::Keep::DriverOnly);
+    scene->Lists().NewList(item.GetPickID(), KeepItemsBy());
 }
 
 void CZvDispGL::GLEndList(CZvDisplayItem&) {
@@ -155,14 +158,15 @@ void CZvDispGL::V_GLArc(CZvDispArc& arc) {
     GLSetLineWidth(arc);
     const double start = std::trunc(arc.GetStartAngle());
     // Beyond one turn the points come again.
-    const double end = std::fmin(std::trunc(arc.GetEndAngle()), start + 360.0);
+    const double sweep = std::fmin(std::trunc(arc.GetEndAngle()) - start, 360.0);
     Sink().Begin(zv::Figure::LineStrip);
-    for (double degrees = start; degrees <= end; degrees += kStep)
-        V_GLVertice(OnCircle(arc.GetCenter(), arc.GetRadius(), degrees));
+    for (int degrees = 0; degrees <= sweep; degrees += kStep)
+        V_GLVertice(OnCircle(arc.GetCenter(), arc.GetRadius(), std::fmod(start, 360.0) + degrees));
     Sink().End();
 }
 
 void CZvDispGL::V_OnTempPolygon(CZvDispPolygon& polygon) {
+    const zv::TemporaryScope temporary(KeepItemsBy());
     GLSetColor(polygon);
     GLSetLineWidth(polygon);
     GLSetFillColor(polygon);

@@ -75,6 +75,7 @@ void CZvDispGL::DrawSymbolByMembers(CZvDispSymbols& symbol) {
 }
 
 void CZvDispGL::V_OnTempSymbols(CZvDispSymbols& symbol) {
+    const zv::TemporaryScope temporary(KeepItemsBy());
     PlaceMembers(symbol, &CZvDispGL::DrawTempMember);
 }
 

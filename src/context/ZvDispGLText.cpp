@@ -1,3 +1,5 @@
+#include <GL/gl.h>
+
 #include <cmath>
 
 #include "context/DrawSink.h"
@@ -42,6 +44,16 @@ std::string OutlineLabel(std::string label) {
     return label;
 }
 
+/// The list of a character and the step to the next; without a row it neither draws nor steps.
+void CompileStep(unsigned code) {
+    glNewList(zv::kSteppingLists + code, GL_COMPILE);
+    if (zv::StrokeShapeOf(static_cast<unsigned char>(code)).hasRow) {
+        glCallList(zv::kCharacterLists + code);
+        glTranslatef(static_cast<float>(zv::kStrokeCell), 0.0f, 0.0f);
+    }
+    glEndList();
+}
+
 zv::Affine At(const CZvDispPoint& p) {
     return zv::Affine::Shift(p.GetX(), p.GetY());
 }
@@ -54,7 +66,8 @@ void CZvDispGL::DrawText(CZvDispText& text) {
 }
 
 void CZvDispGL::V_GLText(CZvDispText& text) {
-    if (m_nFontIndex > 0)
+    strokeFont = m_nFontIndex <= 0;
+    if (!strokeFont)
         V_GLTrueTypeText(text);
     else
         V_GLStrokeText(text);
@@ -97,7 +110,6 @@ void CZvDispGL::V_GLTrueTypeText(CZvDispText& text) {
     if (label.empty() || !m_outlineFont) return;
     // The frame gives the start of a text; that of one justified right lies a width to the left.
     const char justify = text.GetHorzJustify();
-    strokeFont = false;
     text.SetHorzJustify('r');
     const double width = -GetTextPostion(text).GetX();
     text.SetHorzJustify(justify);
@@ -119,6 +131,8 @@ void CZvDispGL::CreateCharDisplayList() {
         DrawStrokeFontLetter(static_cast<char>(static_cast<unsigned char>(i)));
         scene->EndShapeList();
     }
+    for (unsigned i = 0; scene && i < zv::kCharacterCount; ++i)
+        CompileStep(i);
     if (m_nFontIndex <= 0) return;
     if (!wglGetCurrentDC())
         AfxMessageBox("wglGetCurrentDC() return NULL");

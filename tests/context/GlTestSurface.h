@@ -41,7 +41,8 @@ class Picture {
     int Count(const std::function<bool(const Rgb&)>& is) const {
         int count = 0;
         for (int y = 0; y < m_height; ++y)
-            for (int x = 0; x < m_width; ++x) count += is(At(x, y));
+            for (int x = 0; x < m_width; ++x)
+                count += is(At(x, y));
         return count;
     }
     int CountOf(const Rgb& color) const {
@@ -77,9 +78,7 @@ class TestSurface {
 
     HDC Dc() const { return m_dc; }
     /// Pixels of the last SwapBuffers.
-    Picture Shown() const {
-        return {DevicePixels(m_dc), DeviceWidth(m_dc), DeviceHeight(m_dc)};
-    }
+    Picture Shown() const { return {DevicePixels(m_dc), DeviceWidth(m_dc), DeviceHeight(m_dc)}; }
 
   private:
     HDC m_dc;

@@ -174,9 +174,10 @@ TEST(Wgl, FontOutlinesAreListsOfFilledGlyphsThatAdvance) {
     const BareContext context;
     SelectFont(context.Dc(), {"Arial", 100, false});
     GLYPHMETRICSFLOAT metrics[256];
-    ASSERT_TRUE(wglUseFontOutlinesA(context.Dc(), 0, 256, 1000, 0.0f, 0.15f, WGL_FONT_POLYGONS,
-                                    metrics));
-    for (unsigned c = 0; c < 256; ++c) ASSERT_TRUE(glIsList(1000 + c)) << c;
+    ASSERT_TRUE(
+        wglUseFontOutlinesA(context.Dc(), 0, 256, 1000, 0.0f, 0.15f, WGL_FONT_POLYGONS, metrics));
+    for (unsigned c = 0; c < 256; ++c)
+        ASSERT_TRUE(glIsList(1000 + c)) << c;
     // Widths of the metric family, in 2048 units of the em: H 1479, i 455, degree sign 819.
     EXPECT_FLOAT_EQ(metrics['H'].gmfCellIncX, 1479.0f / 2048);
     EXPECT_FLOAT_EQ(metrics['i'].gmfCellIncX, 455.0f / 2048);
@@ -190,7 +191,7 @@ TEST(Wgl, FontOutlinesAreListsOfFilledGlyphsThatAdvance) {
     glGetFloatv(GL_MODELVIEW_MATRIX, matrix);
     EXPECT_NEAR(matrix[12], -1.0f + 2.0f * 1479 / 2048, 1e-6);
     const auto box = context.Swap().BoxOfOther(kBlack);
-    EXPECT_EQ(box[3], 63);                                      // stands on the baseline
+    EXPECT_EQ(box[3], 63);                                       // stands on the baseline
     EXPECT_NEAR(box[1], 64 - 64 * metrics['H'].gmfOriginY, 1.0); // as tall as a capital
 }
 
