@@ -3,6 +3,7 @@
 #include "clip/ZvDispMapClipper.h"
 #include "context/ZvDispGL.h"
 #include "items/ItemUpdate.h"
+#include "platform/Numbers.h"
 #include "platform/zvcom/ZvUtilGeo.h"
 
 CZvDispArc::CZvDispArc(const CZvDispPoint& center, double radius, float startAngle, float endAngle)
@@ -42,8 +43,8 @@ void CZvDispArc::Erase(CZvDisplayContext* const context) {
 void CZvDispArc::V_Rotate(const CZvDispPoint& origin, double degrees) {
     if (degrees == 0.0) return;
     CZvUtilGeo::RotatePoint(m_center, origin, degrees);
-    m_endAngle = static_cast<float>(m_endAngle + degrees);
-    m_startAngle = static_cast<float>(m_startAngle + degrees);
+    m_endAngle = zv::ToFloat(m_endAngle + degrees);
+    m_startAngle = zv::ToFloat(m_startAngle + degrees);
 }
 
 void CZvDispArc::V_Update(const void* record) {

@@ -162,6 +162,8 @@ class ZVDISP_API CZvDisplayItem {
     zv::RecordReader* In() const { return m_in; }
     /// Stream of the last transfer that had one; blocks outside of a transfer go there.
     std::FILE* Stream() const { return m_stream; }
+    /// A group's members take part in its transfers.
+    void HandStreamTo(CZvDisplayItem& member) const { member.m_stream = m_stream; }
 
     /// Stores the colour in the field, past every override.
     void StoreColor(ZVColor color) { m_color = color; }

@@ -54,7 +54,7 @@ bool GridIndex::InsertPoint(unsigned pickID, const CZvDispPoint& point, const CZ
 bool GridIndex::InsertBox(unsigned pickID, const std::vector<CZvDispPoint>& vertices,
                           const CZvDispPoint& ll, const CZvDispPoint& ur) {
     CZvDispPoint min, max;
-    CZvUtilGeo::PolyLineGetMinMax(vertices, min, max);
+    if (!CZvUtilGeo::PolyLineGetMinMax(vertices, min, max)) return true;
     int fromColumn, fromRow, toColumn, toRow;
     const bool lowInside = FindGridIndex(min, ll, ur, fromColumn, fromRow);
     const bool highInside = FindGridIndex(max, ll, ur, toColumn, toRow);

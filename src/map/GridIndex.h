@@ -27,8 +27,8 @@ class GridIndex {
 
     /// Files an item into the cells that it touches: texts and circles by their point, polylines
     /// and polygons by their box. False when it does not fit and so has to be drawn at once. True
-    /// without a cell for the other kinds, and for a box of which the lower left corner alone lies
-    /// outside.
+    /// without a cell for the other kinds, for a line without vertices, and for a box of which the
+    /// lower left corner alone lies outside.
     bool Insert(CZvDisplayItem& item, const CZvDispPoint& ll, const CZvDispPoint& ur);
     void Clear() { m_cells.clear(); }
     /// Null for an empty cell.
@@ -47,9 +47,10 @@ class GridIndex {
 /// a zone. `dimension` is the number of zones on a side.
 template<class Act>
 void ForEachCell(const std::vector<int>& zones, int dimension, Act&& act) {
-    if (dimension <= 0) return;
+    if (dimension <= 0 || dimension > GridIndex::kCells) return;
     const int side = GridIndex::kCells / dimension;
     for (const int zone : zones) {
+        if (zone < 0 || zone >= dimension * dimension) continue;
         const int row = zone / dimension, column = zone % dimension;
         for (int x = column * side; x < (column + 1) * side; ++x)
             for (int y = row * side; y < (row + 1) * side; ++y)

@@ -8,6 +8,7 @@
 #include "platform/zvcom/ZvLayerInfo.h"
 #include "platform/zvcom/ZvUtRegistry.h"
 #include "platform/zvcom/ZvUvException.h"
+#include "platform/zvlogs/ZvLog.h"
 
 namespace zv {
 
@@ -67,15 +68,21 @@ void ItemStore::NameFile() {
     const unsigned generation = CZvUtRegistry::S_GetGeneration();
     const std::string path = m_map ? m_map->GetDispFilePath() : kDefaultPath;
     if (m_nameGeneration == generation && m_namePath == path && m_file.IsOpen()) return;
-    m_file.SetName(GetFileName());
+    const bool kept = m_file.SetName(GetFileName());
     m_nameGeneration = generation;
     m_namePath = path;
+    if (!kept) DropLost();
 }
 
 bool ItemStore::OpenForWrite() {
     if (m_writeOpen) return true;
     NameFile();
     if (!m_file.OpenForWrite()) FailWrite();
+    if (m_file.Size() == 0 && Count() > 0) {
+        CZvLog::Output("Scratch file " + m_file.Name() + " is gone. " +
+                           std::to_string(ForgetLost()) + " items are lost.",
+                       101, false);
+    }
     m_writeOpen = true;
     return true;
 }
@@ -93,6 +100,11 @@ void ItemStore::CloseWrite() {
     if (!m_file.Flush()) DropLost();
 }
 
+ItemStore::ReadScope::ReadScope(ItemStore& store) : m_store(store) {
+    m_store.CloseWrite();
+    m_store.OpenForRead();
+}
+
 void ItemStore::CloseFile() {
     CloseWrite();
     m_file.Close();
@@ -104,7 +116,11 @@ void ItemStore::Append(CZvDisplayItem& item) {
     Draft draft(m_file.Pending(), item);
     const std::size_t length = draft.Bytes().size();
     draft.Keep();
-    if (!m_file.Commit()) DropLost();
+    if (!m_file.Commit()) {
+        ForgetLost();
+        m_writeOpen = false;
+        FailWrite(); // this item's own record is among the lost
+    }
     m_keys.Set(item.GetPickID(), offset);
     ++m_records;
     m_longest = std::max(m_longest, length);
@@ -166,9 +182,8 @@ void ItemStore::FailWrite() const {
                          "ZvDisplayList", kWriteLine);
 }
 
-// Takes the keys away whose records never reached the file, and raises the exception.
-void ItemStore::DropLost() {
-    m_writeOpen = false;
+// Takes the keys away whose records never reached the file; gives their number.
+std::size_t ItemStore::ForgetLost() {
     std::vector<unsigned> lost;
     KeyTable::Cursor cursor;
     while (const KeyTable::Entry* entry = m_keys.Next(cursor))
@@ -176,7 +191,13 @@ void ItemStore::DropLost() {
     for (const unsigned key : lost)
         m_keys.Remove(key);
     if (m_onLost && !lost.empty()) m_onLost(lost);
-    FailWrite();
+    return lost.size();
+}
+
+// Raises the exception when records were lost that somebody still asks for.
+void ItemStore::DropLost() {
+    m_writeOpen = false;
+    if (ForgetLost() > 0) FailWrite();
 }
 
 } // namespace zv

@@ -61,6 +61,18 @@ class ItemStore {
     /// CloseWrite, and lets go of the file itself.
     void CloseFile();
 
+    /// Reading from what is written so far, until its end also when an exception passes.
+    class ReadScope {
+      public:
+        explicit ReadScope(ItemStore& store);
+        ~ReadScope() { m_store.CloseRead(); }
+        ReadScope(const ReadScope&) = delete;
+        ReadScope& operator=(const ReadScope&) = delete;
+
+      private:
+        ItemStore& m_store;
+    };
+
     /// Writes the item's record behind the others and enters its pick ID.
     void Append(CZvDisplayItem& item);
     /// Null for a pick ID that is not there or whose record cannot be read.
@@ -80,6 +92,7 @@ class ItemStore {
     std::uint64_t LengthAt(std::uint64_t offset);
     [[noreturn]] void FailRead() const;
     [[noreturn]] void FailWrite() const;
+    std::size_t ForgetLost();
     void DropLost();
 
     ListPlace m_place;

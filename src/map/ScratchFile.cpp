@@ -13,7 +13,7 @@ constexpr std::uint64_t kWriteSize = 256 * 1024;
 
 /// The open files of the process, the one used last in front.
 std::list<ScratchFile*>& Pool() {
-    static std::list<ScratchFile*> pool;
+    static auto& pool = *new std::list<ScratchFile*>; // outlives a map of a global
     return pool;
 }
 
@@ -27,14 +27,15 @@ ScratchFile::~ScratchFile() {
     Close();
 }
 
-void ScratchFile::SetName(const std::string& name) {
-    if (name == m_name) return;
-    Close();
+bool ScratchFile::SetName(const std::string& name) {
+    if (name == m_name) return true;
+    const bool written = Close();
     m_name = name;
+    return written;
 }
 
 bool ScratchFile::IsOpen() {
-    if (m_file && !HasName(m_file)) CloseHandle();
+    if (m_file && !HasName(m_file)) Abandon();
     return m_file != nullptr;
 }
 
@@ -44,8 +45,17 @@ bool ScratchFile::OpenForWrite() {
     return true;
 }
 
+// The file was deleted: what it held is gone with it, and so is what was to follow.
+void ScratchFile::Abandon() {
+    m_pending.Truncate(0);
+    CloseHandle();
+    m_written = 0;
+    m_made = false;
+}
+
 // Gives the file a handle. One handle serves both ways: each transfer names its place.
 bool ScratchFile::Ensure(bool create) {
+    if (m_file && create && !m_made) CloseHandle(); // what a former file left is to be truncated
     if (m_file) {
         Pool().splice(Pool().begin(), Pool(), m_inPool);
         return true;
@@ -55,7 +65,10 @@ bool ScratchFile::Ensure(bool create) {
         m_written = 0;
     } else {
         m_file = OpenHandle("r+b");
-        if (!m_file && create && errno == ENOENT) m_file = OpenHandle("w+b");
+        if (!m_file && create && errno == ENOENT && m_pending.Size() == 0) {
+            m_file = OpenHandle("w+b"); // it was deleted, and what it held with it
+            m_written = 0;
+        }
     }
     if (!m_file) return false;
     std::setvbuf(m_file, nullptr, _IONBF, 0);

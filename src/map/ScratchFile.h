@@ -31,11 +31,14 @@ class ScratchFile {
     ScratchFile(const ScratchFile&) = delete;
     ScratchFile& operator=(const ScratchFile&) = delete;
 
-    /// Names the file, in the engine's spelling; another name closes the one before.
-    void SetName(const std::string& name);
+    /// Names the file, in the engine's spelling; another name closes the one before. False when
+    /// what was pending for that one could not be written and was dropped.
+    bool SetName(const std::string& name);
     const std::string& Name() const { return m_name; }
 
-    /// Whether the file is open and still there under its name; one that is gone is closed.
+    /// Whether the file is open and still there under its name. One that was deleted is closed and
+    /// counts as never made: nothing is written or pending, and the next opening for writing starts
+    /// it anew.
     bool IsOpen();
     /// Makes sure that the file can be written; the first call truncates it. False when it cannot
     /// be opened. One that is gone is made anew.
@@ -66,6 +69,7 @@ class ScratchFile {
     bool Ensure(bool create);
     std::FILE* OpenHandle(const char* mode);
     void CloseHandle();
+    void Abandon();
     bool WritePending();
     bool WriteAt(std::uint64_t offset, std::span<const char> bytes);
 

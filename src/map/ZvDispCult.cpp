@@ -97,21 +97,16 @@ std::list<CZvDisplayItem*>& CZvDispCult::GetDispList() {
 
 CZvDisplayItem* CZvDispCult::GetItem(unsigned pickID) {
     if (!m->store.Holds(pickID)) return nullptr;
-    m->store.CloseWrite();
-    m->store.OpenForRead();
+    const zv::ItemStore::ReadScope reading(m->store);
     std::unique_ptr<CZvDisplayItem> item = m->store.Read(pickID);
-    m->store.CloseRead();
     if (item) item->SetCultureID(m->store.Place().culture);
     return item.release();
 }
 
 bool CZvDispCult::OpenAndUpdateItem(CZvDisplayItem* item) {
-    if (!m->store.Holds(item->GetPickID())) return false;
-    m->store.CloseWrite();
-    m->store.OpenForRead();
-    const bool updated = m->store.Update(*item);
-    m->store.CloseRead();
-    return updated;
+    if (m->store.Count() == 0) return false;
+    const zv::ItemStore::ReadScope reading(m->store);
+    return m->store.Update(*item);
 }
 
 bool CZvDispCult::DeleteItemFromList(CZvDisplayItem* item) {

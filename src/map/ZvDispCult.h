@@ -39,6 +39,7 @@ class ZVDISP_API CZvDispCult {
     /// Hands the items to the context in the order of the walk; nothing is written back. With
     /// `redraw` no item is read: an OpenGL context replays its display lists, and under memory
     /// control the zones that left the view are erased and those that entered it are compiled.
+    /// REQUIRES: not null.
     void Draw(CZvDisplayContext* const context, bool redraw);
     /// Writes the visible items to a drawing file.
     void Write(CZvDispFileParam& file);
@@ -58,6 +59,9 @@ class ZVDISP_API CZvDispCult {
     CZvDisplayItem* GetItem(unsigned pickID);
     /// Takes an item out of the list by pick ID and ID; the object stays the caller's. True, also
     /// for an item that is not there.
+    /// The item's display list stays until the whole list is deleted from the screen by its
+    /// rendering context; a host that wants it gone calls CZvDispGL::DeleteDispItem. An item that
+    /// this list keeps alive stays the list's. REQUIRES: not null.
     bool DeleteItemFromList(CZvDisplayItem* item);
     /// Stores the list's own context (a CZvDisplayContext, borrowed); the rest is not read.
     void SetPara(CZvDispFileParam& file, void* context);

@@ -28,7 +28,7 @@ void CZvDispCult::Draw(CZvDisplayContext* const context, bool redraw) {
     m->store.CloseWrite();
     FreeItems();
     if (!redraw) return DrawAll(*context);
-    if (context->GetType() != CTX_PICK) {
+    if (zv::AsOpenGL(context) && context->GetType() != CTX_PICK) { // a pick only replays
         UpdateZones(*context, context->GetMemCtrl());
         UpdateZones(*context, context->GetMemCtrlExt());
     }
@@ -58,7 +58,7 @@ void CZvDispCult::DrawAll(CZvDisplayContext& context) {
     CZvDispMemCtrl* const control = context.GetMemCtrl();
     CZvDispMemCtrlExt* const extended = context.GetMemCtrlExt();
     if (gl) gl->Start();
-    if (gl && (control || extended)) m->grid.Clear();
+    if (gl && (control || extended)) m->grid.Clear(); // an item is not to stand in it twice
     const bool zoned = gl && IsManaged(control);
     const bool alsoFiled = gl && IsManaged(extended);
     const bool invisibleToo = context.GetProcessInvisible();

@@ -83,13 +83,12 @@ void CZvDispCult::EraseZones(CZvDisplayContext& context, const CZvDispMemCtrl& c
 
 void CZvDispCult::DrawDetails(CZvDisplayContext& context, const std::vector<unsigned>& pickIDs) {
     if (pickIDs.empty()) return;
-    m->store.OpenForRead();
+    const zv::ItemStore::ReadScope reading(m->store);
     zv::ItemFetch fetch(m->store, pickIDs);
     while (const auto item = fetch.Next()) {
         item->SetCultureID(m->store.Place().culture);
         context.DrawDispItem(item.get());
     }
-    m->store.CloseRead();
 }
 
 // Each pick ID once, where it comes first.

@@ -71,6 +71,7 @@ void CZvDispLayer::PopulateMemCtrl(bool redraw) {
         } else {
             control->CheckActive();
             control->ComputeZoneDim();
+            control->ForgetZones(); // a full draw takes every display list away
         }
     }
     if (m_memCtrlExt && !redraw) m_memCtrlExt->ShowAllZones();

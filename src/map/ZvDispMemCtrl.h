@@ -12,6 +12,10 @@ class CZvDispMap;
 /// Keeps display lists of a dense layer only for the zones in view. The map is cut into square
 /// zones; when the view moves, zones that left it are erased and zones that entered it are added.
 /// Shows no zone until the view is close enough.
+///
+/// Not promised: a line or polygon of whose box the lower left corner alone lies outside the map's
+/// grid stands in no zone and is not shown; items other than texts, lines, polygons and circles
+/// are not shown at all in a managed culture.
 class ZVDISP_API CZvDispMemCtrl {
   public:
     CZvDispMemCtrl() = default;
@@ -39,6 +43,8 @@ class ZVDISP_API CZvDispMemCtrl {
     /// The rectangle that zones and grid cells divide; both points stay when there are no bounds.
     void GetGridRect(CZvDispPoint& ll, CZvDispPoint& ur) const;
     void CheckActive();
+    /// No zone counts as shown by an earlier update: the next one adds all that are in view then.
+    void ForgetZones() { m_previous.clear(); }
     int ComputeZoneDim();
     void ComputeZones();
     bool IsViewInRange() const;

@@ -3,6 +3,7 @@
 #include "persist/DrawingStyle.h"
 #include "persist/DrawingTail.h"
 #include "persist/ZvDispFileParam.h"
+#include "platform/Numbers.h"
 
 /// Arcs and circles in drawing records.
 
@@ -46,8 +47,8 @@ void CZvDispArc::V_ReadFromFile(CZvDispFileParam& file) {
     ReadShapeStyle(in, *this);
     m_center = ReadCenter(in, m_center);
     m_radius = in.Double(4, drw::kRadius);
-    m_startAngle = static_cast<float>(in.Double(4, drw::kAngle));
-    m_endAngle = m_startAngle + static_cast<float>(in.Double(4, drw::kAngle));
+    m_startAngle = ToFloat(in.Double(4, drw::kAngle));
+    m_endAngle = m_startAngle + ToFloat(in.Double(4, drw::kAngle));
     ReadTail(in, file, drw::kCultureOfArc);
 }
 

@@ -4,6 +4,7 @@
 #include "persist/DrawingTail.h"
 #include "persist/DrawingWriter.h"
 #include "persist/ZvDispFileParam.h"
+#include "platform/Numbers.h"
 
 /// Texts in drawing records. Line width and line type of a text are not kept.
 
@@ -45,7 +46,7 @@ void CZvDispText::V_ReadFromFile(CZvDispFileParam& file) {
     SetLineWidth(1, 0);
     SetLineType(1, 0);
     SetDegree(in.Double(4, drw::kAngle));
-    m_height = static_cast<float>(in.Double(3, drw::kHeight));
+    m_height = ToFloat(in.Double(3, drw::kHeight));
     m_horizontal = in.Char(3);
     m_vertical = in.Char(3);
     in.Skip(drw::kTextStyleBlanks + drw::kNewline);

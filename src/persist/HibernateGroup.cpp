@@ -37,7 +37,7 @@ std::vector<Member> WritableMembers(const std::multimap<int, CZvDisplayItem*>& m
 
 bool CZvDispGroup::V_DispHib(CZvDispFileParam& file) {
     zv::RecordWriter* const out = Out();
-    if (!out) return true;
+    if (!out) return !Stream() || HibDispItem(Stream());
     const LevelScope level(out->Level());
     CZvDisplayItem::V_DispHib(file);
     DispOut(m_origin);
@@ -45,14 +45,16 @@ bool CZvDispGroup::V_DispHib(CZvDispFileParam& file) {
     DispOut(static_cast<int>(members.size()));
     for (const auto& [key, item] : members)
         DispOut(key);
-    for (const auto& [key, item] : members)
+    for (const auto& [key, item] : members) {
+        HandStreamTo(*item);
         item->Hibernate(*out);
+    }
     return true;
 }
 
 bool CZvDispGroup::V_DispWake(CZvDispFileParam& file) {
     zv::RecordReader* const in = In();
-    if (!in) return true;
+    if (!in) return !Stream() || WakeDispItem(Stream());
     const LevelScope level(in->Level());
     CZvDisplayItem::V_DispWake(file);
     DispIn(m_origin);
@@ -71,6 +73,7 @@ bool CZvDispGroup::ReadPrimitive(int key) {
         in.BreakOff();
         return false;
     }
+    HandStreamTo(*item);
     item->Wake(in);
     AddPrimitive(key, item.release());
     return true;

@@ -8,6 +8,7 @@
 #include "items/ZvDispText.h"
 #include "persist/ItemTransfer.h"
 #include "persist/ZvDispFileParam.h"
+#include "platform/Numbers.h"
 
 bool CZvDisplayItem::Hibernate(zv::RecordWriter& to) {
     const zv::TransferScope scope(m_out, to);
@@ -120,7 +121,7 @@ bool CZvDispText::V_DispWake(CZvDispFileParam& file) {
     DispIn(m_offsetID);
     m_horizontal = static_cast<char>(horizontal);
     m_vertical = static_cast<char>(vertical);
-    m_height = static_cast<float>(height);
+    m_height = zv::ToFloat(height);
     return true;
 }
 
@@ -209,7 +210,7 @@ bool CZvDispArc::V_DispWake(CZvDispFileParam& file) {
     DispIn(m_radius);
     DispIn(endAngle);
     DispIn(startAngle);
-    m_endAngle = static_cast<float>(endAngle);
-    m_startAngle = static_cast<float>(startAngle);
+    m_endAngle = zv::ToFloat(endAngle);
+    m_startAngle = zv::ToFloat(startAngle);
     return true;
 }

@@ -91,4 +91,11 @@ double ParseDouble(std::string_view text) {
     return value;
 }
 
+float ToFloat(double value) {
+    using Float = std::numeric_limits<float>;
+    if (value > Float::max()) return Float::infinity();
+    if (value < Float::lowest()) return -Float::infinity();
+    return static_cast<float>(value);
+}
+
 } // namespace zv

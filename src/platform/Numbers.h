@@ -15,6 +15,9 @@ ZVDISP_API std::string FormatFixed(double value, int decimals);
 /// Shortest text that reads back as the same number.
 ZVDISP_API std::string FormatShortest(double value);
 
+/// The nearest number of single precision; what lies beyond its range becomes infinite.
+ZVDISP_API float ToFloat(double value);
+
 /// The number at the head of the text behind leading blanks, as the C function does: what cannot be
 /// read gives 0, and what follows the number is not looked at. Out of range saturates.
 ZVDISP_API int ParseInt(std::string_view text);

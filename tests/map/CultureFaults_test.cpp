@@ -7,6 +7,7 @@
 #include "map/ZvDispMap.h"
 #include "platform/zvcom/ZvUvException.h"
 #include "support/CultureHome.h"
+#include "support/LogLines.h"
 #include "support/MapHome.h"
 #include "support/RecordingContext.h"
 
@@ -34,6 +35,26 @@ std::string Message(const CultureHome& home, const char* what, const char* file)
     return std::string("Can't ") + what + " File " + home.work.Path().string() + "\\DispDefault\\" +
            file + ". Please check you disk space or access right.";
 }
+
+/// A limit on the size of files for the time of a scope.
+class DiskLimit {
+  public:
+    explicit DiskLimit(rlim_t bytes) : m_signal(std::signal(SIGXFSZ, SIG_IGN)) {
+        getrlimit(RLIMIT_FSIZE, &m_before);
+        const rlimit limit{bytes, m_before.rlim_max};
+        setrlimit(RLIMIT_FSIZE, &limit);
+    }
+    ~DiskLimit() {
+        setrlimit(RLIMIT_FSIZE, &m_before);
+        std::signal(SIGXFSZ, m_signal);
+    }
+    DiskLimit(const DiskLimit&) = delete;
+    DiskLimit& operator=(const DiskLimit&) = delete;
+
+  private:
+    rlimit m_before{};
+    void (*m_signal)(int);
+};
 
 TEST(CultureFaults, AFileThatCannotBeMadeRaisesTheWriteException) {
     CultureHome home;
@@ -72,6 +93,55 @@ TEST(CultureFaults, AnItemCanBeAddedAfterTheFileWasDeleted) {
     EXPECT_EQ(home.Get(10001), nullptr);
 }
 
+TEST(CultureFaults, WhatADeletedFileHeldIsToldAndForgotten) {
+    for (const bool closed : {true, false}) {
+        CultureHome home;
+        home.AddLine(10001, 1);
+        home.AddLine(10002, 2);
+        if (closed)
+            home.list.CloseFiles();
+        else
+            home.list.GetItem(99999);
+        RecordingContext context;
+        home.list.Draw(&context, false);
+        fs::remove(home.work / "DispDefault/CUSTOM_1_2_551");
+        zv::test::LogLines log;
+        home.list.FreeItems();
+        if (!closed) home.list.CloseFiles();
+        home.AddLine(10003, 3);
+        EXPECT_TRUE(log.Holds("is gone. 2 items are lost."));
+        EXPECT_EQ(home.list.GetCultureCount(), 1);
+        context.Take();
+        home.list.Draw(&context, false);
+        EXPECT_EQ(context.Take(), "line 3,0 3,1 c8\n");
+    }
+}
+
+TEST(CultureFaults, RecordsThatNobodyAsksForAnyMoreAreNotMissed) {
+    CultureHome home;
+    for (unsigned id = 10001; id < 10020; ++id)
+        home.AddLine(id, 1);
+    home.list.RemoveAll();
+    const DiskLimit limit(10);
+    EXPECT_NO_THROW(home.list.CloseFiles());
+}
+
+TEST(CultureFaults, AFaultInTheMiddleOfAnUpdateClosesTheReading) {
+    CultureHome home;
+    home.AddLine(10001, 1);
+    home.list.CloseFiles();
+    auto longer = CultureHome::Line(10001, 1);
+    for (int i = 0; i < 100; ++i)
+        longer->AddPoint({1.0 * i, 1});
+    {
+        const DiskLimit limit(300);
+        EXPECT_THROW(home.list.OpenAndUpdateItem(longer.get()), CZvUvException);
+    }
+    home.list.CloseFiles();
+    fs::remove(home.work / "DispDefault/CUSTOM_1_2_551");
+    ExpectFault([&] { home.list.GetItem(10001); }, Message(home, "Read", "CUSTOM_1_2_551"), 973);
+}
+
 TEST(CultureFaults, AFullDeviceRaisesTheExceptionAndDropsTheKey) {
     CultureHome home(25, 220);
     fs::create_directories(home.work / "DispDefault");
@@ -83,21 +153,6 @@ TEST(CultureFaults, AFullDeviceRaisesTheExceptionAndDropsTheKey) {
     EXPECT_TRUE(home.LookUp("17-705").empty());
     EXPECT_EQ(line->GetID(), "17-705") << "the item stays the caller's";
 }
-
-/// A limit on the size of files for the time of a scope.
-class DiskLimit {
-  public:
-    explicit DiskLimit(rlim_t bytes) {
-        std::signal(SIGXFSZ, SIG_IGN);
-        getrlimit(RLIMIT_FSIZE, &m_before);
-        const rlimit limit{bytes, m_before.rlim_max};
-        setrlimit(RLIMIT_FSIZE, &limit);
-    }
-    ~DiskLimit() { setrlimit(RLIMIT_FSIZE, &m_before); }
-
-  private:
-    rlimit m_before{};
-};
 
 TEST(CultureFaults, ADiskThatFillsLaterDropsExactlyTheItemsWhoseRecordsAreLost) {
     CultureHome home(25, 220);

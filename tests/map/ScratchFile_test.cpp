@@ -228,4 +228,15 @@ TEST(ScratchFile, GivesWayWhenTheHostHasUsedUpTheHandles) {
     EXPECT_EQ(ReadText(folder / "first"), "pending") << "written before its handle was given away";
 }
 
+TEST(ScratchFile, AReadingBeforeTheFirstWriteDoesNotKeepALeftover) {
+    zv::test::TempFolder folder;
+    zv::test::WriteText(folder.Path() / "list", "leftover");
+    zv::ScratchFile file;
+    file.SetName(folder / "list");
+    EXPECT_TRUE(file.OpenForRead());
+    EXPECT_TRUE(file.OpenForWrite());
+    char byte = 0;
+    EXPECT_EQ(file.ReadAt(0, &byte, 1), 0u);
+}
+
 } // namespace

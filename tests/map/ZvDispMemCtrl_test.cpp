@@ -434,6 +434,34 @@ TEST(MemoryControl, ARedrawErasesZonesThatLeftAndCompilesThoseThatEntered) {
     EXPECT_FALSE(t.gl.IsItemList(10002)) << "the view is too wide";
 }
 
+TEST(MemoryControl, NothingInViewVanishesWhenAFullDrawComesBetweenRedraws) {
+    Pipelines t;
+    t.AddLine(10000, 10000, 20000, 20000);     // zone 0
+    t.AddLine(600000, 600000, 610000, 610000); // zone 21
+    t.Draw(0, 0, 1000, true);
+    t.Draw(0, 0, 500000, false); // too wide for any zone: every list is gone
+    EXPECT_EQ(t.Draw(0, 0, 1000, true), "line 10001 c8\nreplay 10002\nreplay 10001\n");
+    EXPECT_TRUE(t.gl.IsItemList(10001));
+    t.Draw(600000, 600000, 1000, false);
+    EXPECT_EQ(t.Draw(0, 0, 1000, true), "line 10001 c8\nreplay 10002\nreplay 10001\n");
+    EXPECT_TRUE(t.gl.IsItemList(10001));
+}
+
+TEST(MemoryControl, ZonesAreTheScreensAlone) {
+    Pipelines t;
+    t.AddLine(10000, 10000, 20000, 20000);
+    t.Draw(0, 0, 1000, false);
+    t.Draw(600000, 600000, 1000, true);
+    zv::test::RecordingContext paper(CTX_OTHER);
+    paper.traceTags = false;
+    t.m.map.SetContext(&paper);
+    t.m.map.Draw(L(15), 99, 99, ZV_CULTURE_ALL, true);
+    EXPECT_EQ(paper.Take(), "open\nclose\n");
+    t.m.map.Draw(L(15), 99, 99, ZV_CULTURE_ALL, false);
+    EXPECT_EQ(paper.Take(), "open\nline 10000,10000 20000,20000 c8\nclose\n");
+    t.m.map.SetContext(&t.gl);
+}
+
 TEST(MemoryControl, AnItemInTwoZonesSurvivesTheErasureOfOne) {
     Pipelines t;
     t.AddLine(100000, 10000, 200000, 10000); // zones 0 and 1, parted at 133,333
@@ -519,6 +547,73 @@ TEST(MemoryControl, TheExtendedControlDrawsAllAndTakesAwayWhatIsOutOfView) {
     EXPECT_FALSE(t.gl.IsItemList(10002));
     EXPECT_EQ(draw(600000, true), "line 10002 c8\nreplay 10002\nreplay 10001\n");
     EXPECT_FALSE(t.gl.IsItemList(10001));
+}
+
+/// The cultures from 0 to 999 that a layer's control manages.
+std::vector<int> Managed(const CZvDispMemCtrl& control) {
+    std::vector<int> cultures;
+    for (int culture = 0; culture < 1000; ++culture)
+        if (control.IsCulture(culture)) cultures.push_back(culture);
+    return cultures;
+}
+
+std::vector<int> Numbers(std::initializer_list<std::pair<int, int>> ranges) {
+    std::vector<int> numbers;
+    for (const auto& [first, last] : ranges)
+        for (int number = first; number <= last; ++number)
+            numbers.push_back(number);
+    return numbers;
+}
+
+TEST(MemoryControl, TheTableOfLayersThresholdsAndCultures) {
+    const struct {
+        int layer, threshold;
+        std::vector<int> cultures;
+    } table[] = {
+        {3, 20, Numbers({{12, 12}})},
+        {13, 20, Numbers({{141, 152}, {154, 164}})},
+        {15, 10, Numbers({{51, 58}})},
+        {25, 10, Numbers({{222, 222}, {231, 231}, {233, 235}, {240, 241}, {250, 259}})},
+        {66, 10, Numbers({{401, 409}})},
+        {67, 10, Numbers({{600, 604}})},
+    };
+    for (const auto& row : table) {
+        MapHome m;
+        zv::test::RecordingContext context;
+        CZvMapBounds bounds;
+        bounds.SetXY(0, 0, 1e6, 1e6);
+        m.map.SetMapBoundPtr(&bounds);
+        m.map.SetContext(&context);
+        m.AddCircle(1, row.layer, 1, 1, 9999);
+        m.map.Draw(L(row.layer), 99, 99, ZV_CULTURE_ALL, false);
+        CZvDispMemCtrl* control = context.GetMemCtrl();
+        ASSERT_NE(control, nullptr) << row.layer;
+        std::vector<int> expected = row.cultures;
+        if (row.layer == 13) std::erase(expected, 153);
+        EXPECT_EQ(Managed(*control), expected) << row.layer;
+        control->SetMapPtr(&m.map);
+        m.map.SetViewPort(0, 0, row.threshold * 15840.0 + 15839, 1e9, 0);
+        EXPECT_TRUE(control->IsViewInRange()) << row.layer;
+        m.map.SetViewPort(0, 0, row.threshold * 15840.0 + 15840, 1e9, 0);
+        EXPECT_FALSE(control->IsViewInRange()) << row.layer;
+    }
+}
+
+TEST(GridIndex, ALineWithoutVerticesStandsInNoCell) {
+    LogLines log;
+    zv::GridIndex grid;
+    CZvDispPolyLine line;
+    EXPECT_TRUE(grid.Insert(line, {0, 0}, {60, 60}));
+    EXPECT_EQ(grid.Cell(0), nullptr);
+    EXPECT_TRUE(log.Get().empty());
+}
+
+TEST(GridIndex, ZonesThatAreNoneHaveNoCells) {
+    int cells = 0;
+    zv::ForEachCell({-1, 4, 2147483647, -2147483648}, 2, [&](int) { ++cells; });
+    EXPECT_EQ(cells, 0);
+    zv::ForEachCell({3}, 2, [&](int) { ++cells; });
+    EXPECT_EQ(cells, 900);
 }
 
 TEST(MemoryControl, OnlyLeaseBlocksHaveAnExtendedControl) {

@@ -1,6 +1,8 @@
 #include <clocale>
 #include <cmath>
 #include <gtest/gtest.h>
+
+#include <cmath>
 #include <limits>
 #include <locale>
 #include <string>
@@ -35,6 +37,13 @@ class CommaLocale {
 };
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
+
+TEST(Numbers, NarrowingGoesToInfinityBeyondTheRange) {
+    EXPECT_EQ(zv::ToFloat(1.5), 1.5f);
+    EXPECT_EQ(zv::ToFloat(1e300), std::numeric_limits<float>::infinity());
+    EXPECT_EQ(zv::ToFloat(-1e300), -std::numeric_limits<float>::infinity());
+    EXPECT_TRUE(std::isnan(zv::ToFloat(std::nan(""))));
+}
 
 } // namespace
 
