@@ -4,7 +4,11 @@ include(CMakePackageConfigHelpers)
 install(TARGETS zvdisp EXPORT ZvDispTargets
   LIBRARY DESTINATION ${CMAKE_INSTALL_LIBDIR})
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/ DESTINATION ${CMAKE_INSTALL_INCLUDEDIR}/zvdisp
-  FILES_MATCHING PATTERN "*.h")
+  FILES_MATCHING PATTERN "Zv*.h"
+  # of the platform, what the interface's headers speak of
+  PATTERN "Export.h" PATTERN "Error.h" PATTERN "Numbers.h" PATTERN "Share.h" PATTERN "Text.h"
+  PATTERN "Cursor.h" PATTERN "Files.h" PATTERN "MessageBox.h" PATTERN "Wgl.h"
+  PATTERN "export" EXCLUDE PATTERN "edit" EXCLUDE)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/zvdisp DESTINATION ${CMAKE_INSTALL_DATADIR}
   PATTERN "*.py" EXCLUDE)
 install(EXPORT ZvDispTargets NAMESPACE ZvDisp:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZvDisp)

@@ -4,7 +4,7 @@
 
 #include "context/ZvDisplayContext.h"
 #include "map/Composite.h"
-#include "map/Cursor.h"
+#include "map/Children.h"
 #include "map/ZvDispMemCtrl.h"
 #include "persist/ZvDispFileParam.h"
 

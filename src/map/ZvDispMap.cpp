@@ -3,7 +3,7 @@
 #include <limits>
 
 #include "context/ZvDisplayContext.h"
-#include "map/Cursor.h"
+#include "map/Children.h"
 #include "persist/ZvDispFileParam.h"
 #include "platform/Numbers.h"
 #include "platform/zvlogs/ZvLog.h"

@@ -1,7 +1,7 @@
 #include "map/ZvDispPost.h"
 
 #include "context/ZvDisplayContext.h"
-#include "map/Cursor.h"
+#include "map/Children.h"
 #include "map/ZvDispUSet.h"
 #include "persist/ZvDispFileParam.h"
 

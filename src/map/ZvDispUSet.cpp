@@ -2,7 +2,7 @@
 
 #include "context/ZvDisplayContext.h"
 #include "map/Composite.h"
-#include "map/Cursor.h"
+#include "map/Children.h"
 #include "map/ZvDispCult.h"
 #include "persist/ZvDispFileParam.h"
 

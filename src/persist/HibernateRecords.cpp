@@ -58,40 +58,44 @@ CZvDisplayItem* CZvDisplayItem::MakeNewItem(zv::RecordReader& from) {
     }
 }
 
+// Every record of a map goes through these two: one look at the transfer, then block after block.
 bool CZvDisplayItem::V_DispHib(CZvDispFileParam&) {
-    DispOut(static_cast<int>(GetDispType()));
-    DispOut(m_fill);
-    DispOut(m_inactive);
-    DispOut(m_smooth);
-    DispOut(m_visible);
-    DispOut(static_cast<unsigned char>(m_color));
-    DispOut(m_degree);
-    DispOut(m_lineWidth);
-    DispOut(m_lineType);
-    DispOut(static_cast<int>(m_fillStyle));
-    DispOut(m_id);
-    DispOut(m_pickID);
-    DispOut(m_brightness);
+    const int kind = GetDispType();
+    zv::Emit(m_out, m_stream, [&](zv::RecordWriter& out) {
+        out.Int(kind);
+        out.Bool(m_fill);
+        out.Bool(m_inactive);
+        out.Bool(m_smooth);
+        out.Bool(m_visible);
+        out.Byte(static_cast<unsigned char>(m_color));
+        out.Double(m_degree);
+        out.Byte(m_lineWidth);
+        out.Byte(m_lineType);
+        out.Int(m_fillStyle);
+        out.String(m_id);
+        out.Unsigned(m_pickID);
+        out.Double(m_brightness);
+    });
     return true;
 }
 
 bool CZvDisplayItem::V_DispWake(CZvDispFileParam&) {
-    auto color = static_cast<unsigned char>(m_color);
-    int fillStyle = 0;
-    DispIn(m_fill);
-    DispIn(m_inactive);
-    DispIn(m_smooth);
-    DispIn(m_visible);
-    DispIn(color);
-    DispIn(m_degree);
-    DispIn(m_lineWidth);
-    DispIn(m_lineType);
-    DispIn(fillStyle);
-    DispIn(m_id);
-    DispIn(m_pickID);
-    DispIn(m_brightness);
-    m_color = static_cast<ZVColor>(color);
-    m_fillStyle = static_cast<E_FILL_STYLE>(fillStyle);
+    zv::Fetch(m_in, m_stream, [&](zv::RecordReader& in) {
+        auto color = static_cast<unsigned char>(m_color);
+        in.Bool(m_fill);
+        in.Bool(m_inactive);
+        in.Bool(m_smooth);
+        in.Bool(m_visible);
+        in.Byte(color);
+        m_degree = in.Double();
+        in.Byte(m_lineWidth);
+        in.Byte(m_lineType);
+        m_fillStyle = static_cast<E_FILL_STYLE>(in.Int());
+        in.String(m_id);
+        m_pickID = in.Unsigned();
+        m_brightness = in.Double();
+        m_color = static_cast<ZVColor>(color);
+    });
     return true;
 }
 
