@@ -7,8 +7,7 @@ install(DIRECTORY ${PROJECT_SOURCE_DIR}/src/ DESTINATION ${CMAKE_INSTALL_INCLUDE
   FILES_MATCHING PATTERN "Zv*.h"
   # of the platform, what the interface's headers speak of
   PATTERN "Export.h" PATTERN "Error.h" PATTERN "Numbers.h" PATTERN "Share.h" PATTERN "Text.h"
-  PATTERN "Cursor.h" PATTERN "Files.h" PATTERN "MessageBox.h" PATTERN "Wgl.h"
-  PATTERN "export" EXCLUDE PATTERN "edit" EXCLUDE)
+  PATTERN "Cursor.h" PATTERN "Files.h" PATTERN "MessageBox.h" PATTERN "Wgl.h")
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/share/zvdisp DESTINATION ${CMAKE_INSTALL_DATADIR}
   PATTERN "*.py" EXCLUDE)
 install(EXPORT ZvDispTargets NAMESPACE ZvDisp:: DESTINATION ${CMAKE_INSTALL_LIBDIR}/cmake/ZvDisp)

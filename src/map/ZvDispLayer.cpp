@@ -3,8 +3,8 @@
 #include <set>
 
 #include "context/ZvDisplayContext.h"
-#include "map/Composite.h"
 #include "map/Children.h"
+#include "map/Composite.h"
 #include "map/ZvDispMemCtrl.h"
 #include "persist/ZvDispFileParam.h"
 

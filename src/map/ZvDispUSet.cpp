@@ -1,8 +1,8 @@
 #include "map/ZvDispUSet.h"
 
 #include "context/ZvDisplayContext.h"
-#include "map/Composite.h"
 #include "map/Children.h"
+#include "map/Composite.h"
 #include "map/ZvDispCult.h"
 #include "persist/ZvDispFileParam.h"
 

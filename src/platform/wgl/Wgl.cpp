@@ -96,11 +96,12 @@ int ChoosePixelFormat(HDC dc, const PIXELFORMATDESCRIPTOR* format) {
     return kPixelFormat;
 }
 
-bool SetPixelFormat(HDC dc, int number, const PIXELFORMATDESCRIPTOR*) {
+bool SetPixelFormat(HDC dc, int number, const PIXELFORMATDESCRIPTOR* format) {
     if (RefusesStep(WglStep::SetPixelFormat)) return false;
     if (!dc) return FailWith(kErrorInvalidHandle);
     if (number != kPixelFormat) return FailWith(kErrorInvalidPixelFormat);
     dc->pixelFormat = number;
+    if (format) dc->asked = *format;
     return true;
 }
 

@@ -21,6 +21,7 @@ struct DeviceContext {
     SurfaceSize size;
     int dpi = 96;
     int pixelFormat = 0;
+    PIXELFORMATDESCRIPTOR asked;      ///< what SetPixelFormat was given
     std::vector<std::uint8_t> pixels; ///< BGRA of the last SwapBuffers, top row first
     FontRequest font;
 };

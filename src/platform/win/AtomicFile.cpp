@@ -23,13 +23,16 @@ namespace fs = std::filesystem;
 class Descriptor {
   public:
     Descriptor(const fs::path& path, int flags)
-        : m_number(open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, 0666)) {}
+        : m_number(open(path.c_str(), flags | O_WRONLY | O_CLOEXEC, 0666)),
+          m_openError(m_number < 0 ? errno : 0) {}
     ~Descriptor() { Close(); }
     Descriptor(const Descriptor&) = delete;
     Descriptor& operator=(const Descriptor&) = delete;
 
     bool IsOpen() const { return m_number >= 0; }
     int Get() const { return m_number; }
+    /// The system's number for why it is not open, 0 for nothing.
+    int OpenError() const { return m_openError; }
     bool Close() { return m_number < 0 || close(std::exchange(m_number, -1)) == 0; }
 
     bool Write(std::string_view content) const {
@@ -45,6 +48,7 @@ class Descriptor {
 
   private:
     int m_number;
+    int m_openError;
 };
 
 /// A file that goes with this object unless it was renamed.
@@ -136,11 +140,14 @@ struct AtomicFile::Impl {
         : target(BehindLinks(NativePath(path))), inPlace(IsWrittenInPlace(target)),
           file(inPlace ? target : NameBeside(target), inPlace), buffer(file.Get()),
           stream(&buffer) {
+        if (!file.Get().IsOpen()) {
+            errno = file.Get().OpenError();
+            Fail(inPlace ? "cannot write" : "cannot write beside it");
+        }
         if (std::error_code ignored; fs::is_directory(target, ignored)) {
             errno = EISDIR;
             Fail("cannot write");
         }
-        if (!file.Get().IsOpen()) Fail(inPlace ? "cannot write" : "cannot write beside it");
         KeepRights();
     }
 
