@@ -29,7 +29,9 @@ class LentColor {
     void Remember(CZvDisplayItem& item) {
         m_own.emplace_back(&item, item.GetColor());
         if (item.GetDispType() != ZV_DISP_GROUP) return;
-        for (CZvDisplayItem* member : *static_cast<CZvDispGroup&>(item).GetGroupList())
+        const auto* members = static_cast<CZvDispGroup&>(item).GetGroupList();
+        if (!members) return;
+        for (CZvDisplayItem* member : *members)
             if (member) Remember(*member);
     }
 
@@ -61,7 +63,7 @@ void CZvDisplayContext::DrawMember(CZvDispGroup& group, CZvDisplayItem& member) 
 }
 
 void CZvDisplayContext::DrawGroup(CZvDispGroup& group) {
-    if (!group.GetVisibility()) return;
+    if (!group.GetVisibility() || !group.GetGroupList()) return;
     if (dispInfo && dispInfo->memberNumber > 0) {
         if (CZvDisplayItem* member = group.GetGroupItem(dispInfo->memberNumber))
             DrawMember(group, *member);

@@ -69,7 +69,6 @@ void GlSink::BeginCompose(Compose compose) {
 
 void GlSink::EndCompose(Compose compose) {
     if (compose == Compose::Xor) {
-        glFlush();
         glDisable(GL_COLOR_LOGIC_OP);
     } else if (compose == Compose::Blend) {
         glDisable(GL_BLEND);

@@ -30,23 +30,32 @@ struct ItemEntry {
 /// Entries by pick ID. Neighbouring IDs lie side by side, since a walk meets them together.
 class ItemDirectory {
   public:
-    /// Null when no item of that ID was ever entered.
+    /// Null when no item of that ID or of its neighbours is there.
     ItemEntry* Find(unsigned id);
+    /// Makes room for the entry; what is entered must be counted up.
     ItemEntry& At(unsigned id);
     std::size_t Count() const { return m_count; }
-    void CountUp() { ++m_count; }
-    void CountDown() { --m_count; }
+    /// Neighbourhoods of IDs that take memory.
+    std::size_t Pages() const { return m_pages.size(); }
+    /// The entry of that ID is present from now on. REQUIRES: At was called for it.
+    void CountUp(unsigned id);
+    /// It is present no more; it is gone with its neighbourhood when it was the last one there.
+    void CountDown(unsigned id);
     /// Calls act(id, entry) for every present entry, in no particular order.
     template<class Act>
     void ForEach(Act&& act) {
         for (auto& [number, page] : m_pages)
             for (unsigned i = 0; i < kPage; ++i)
-                if ((*page)[i].present) act(number * kPage + i, (*page)[i]);
+                if (page->entries[i].present) act(number * kPage + i, page->entries[i]);
     }
 
   private:
     static constexpr unsigned kPage = 1024;
-    using Page = std::array<ItemEntry, kPage>;
+    struct Page {
+        std::array<ItemEntry, kPage> entries;
+        unsigned present = 0;
+    };
+    Page* FindPage(unsigned number);
 
     std::unordered_map<unsigned, std::unique_ptr<Page>> m_pages;
     unsigned m_lastNumber = 0;

@@ -11,10 +11,11 @@ namespace zv {
 
 namespace {
 
-bool IsListOpenInDriver() {
+/// 0 for none.
+unsigned ListOpenInDriver() {
     GLint list = 0;
     glGetIntegerv(GL_LIST_INDEX, &list);
-    return list != 0;
+    return static_cast<unsigned>(list);
 }
 
 } // namespace
@@ -23,29 +24,39 @@ ItemLists::ItemLists(const ScreenView& view, const ShapeLibrary& shapes, LookTab
     : m_view(view), m_shapes(shapes), m_looks(looks), m_player(looks, shapes, m_batch),
       m_recorder(looks), m_direct({}) {}
 
+bool ItemLists::IsPlaced() const {
+    return m_inShape || m_direct.IsPlaced() || (m_sink && m_gl && m_gl->IsPlaced());
+}
+
+Point2 ItemLists::Origin() const {
+    return IsPlaced() ? Point2{} : m_view.Origin();
+}
+
 GlSink::Setup ItemLists::GlSetup() const {
-    return {m_view.Origin(), m_fontBase, true};
+    return {Origin(), m_fontBase, true};
 }
 
 ItemLists::Open ItemLists::OpenFor(unsigned id, KeepBy keep) {
     if (id == kNoPickID) {
-        const bool placed = m_direct.IsPlaced() || IsListOpenInDriver();
-        return {id, keep == KeepBy::Recording && !placed, false};
+        const unsigned hosts = ListOpenInDriver();
+        if (hosts != 0) m_driverOnly.insert(hosts);
+        const bool direct = m_direct.IsPlaced() || hosts != 0;
+        return {id, keep == KeepBy::Recording && !direct, false};
     }
-    const bool driver =
-        keep == KeepBy::DriverOnly || (m_driverLists < kDriverLists && !IsReservedForShapes(id));
-    return {id, keep == KeepBy::Recording, driver};
+    // Who draws past the recording, under a name that belongs to others, leaves no list.
+    const bool recording = keep == KeepBy::Recording;
+    const bool driver = !IsReservedForShapes(id) && (!recording || m_driverLists < kDriverLists);
+    return {id, recording, driver};
 }
 
 void ItemLists::NewList(unsigned id, KeepBy keep) {
     if (m_depth++ > 0) return;
     if (id != kNoPickID) DeleteList(id);
     m_open = OpenFor(id, keep);
-    if (m_open.records)
-        m_recorder.Reset(false);
-    else
-        Flush();
-    m_driverOnly |= !m_open.records;
+    // What draws at its end comes alone, behind all that was gathered.
+    if (!m_open.records || id == kNoPickID) Flush();
+    if (m_open.records) m_recorder.Reset(false);
+    if (m_open.driver && !m_open.records) m_driverOnly.insert(id);
     if (m_open.driver) glNewList(id, GL_COMPILE);
     m_gl.emplace(GlSetup()).AssumeSolid();
     m_tee.emplace(*m_gl, m_recorder);
@@ -80,18 +91,18 @@ void ItemLists::Enter(const Open& open) {
     entry.record = m_arena.Store(m_recorder.Words());
     entry.refersToShapes = m_shapes.RefersToShapes(m_recorder.Words());
     entry.SetBox(m_shapes.BoundsOf(m_recorder.Words()));
-    m_directory.CountUp();
+    m_directory.CountUp(open.id);
     if (open.driver) ++m_driverLists;
 }
 
 void ItemLists::Forget(unsigned id, ItemEntry& entry) {
     m_arena.Free(entry.record);
-    m_directory.CountDown();
     if (entry.hasDriverList) {
         glDeleteLists(id, 1);
         --m_driverLists;
     }
     entry = {};
+    m_directory.CountDown(id);
 }
 
 bool ItemLists::IsList(unsigned id) {
@@ -102,6 +113,7 @@ bool ItemLists::IsList(unsigned id) {
 
 void ItemLists::DeleteList(unsigned id) {
     ItemEntry* entry = m_directory.Find(id);
+    m_driverOnly.erase(id);
     if (entry && entry->present)
         Forget(id, *entry);
     else if (!IsReservedForShapes(id) && glIsList(id))
@@ -138,11 +150,13 @@ DrawSink& ItemLists::Sink() {
 void ItemLists::BeginShape(DrawSink& sink) {
     Flush();
     ++m_depth;
+    m_inShape = true;
     m_outerSink = std::exchange(m_sink, &sink);
 }
 
 void ItemLists::EndShape() {
     --m_depth;
+    m_inShape = false;
     m_sink = std::exchange(m_outerSink, nullptr);
 }
 
@@ -167,7 +181,10 @@ void ItemLists::Play(std::span<const std::uint32_t> words, const Point2& origin,
 
 void ItemLists::BeginReplay() {
     Flush();
-    m_replaying = true;
+    // While the driver looks for hits it needs each item's calls under the item's name.
+    GLint mode = GL_RENDER;
+    glGetIntegerv(GL_RENDER_MODE, &mode);
+    m_replaying = mode == GL_RENDER;
 }
 
 void ItemLists::EndReplay() {

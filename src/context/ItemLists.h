@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <optional>
+#include <unordered_set>
 
 #include "context/GlSink.h"
 #include "context/ItemDirectory.h"
@@ -40,6 +41,8 @@ class ItemLists {
     /// Whether a list is being compiled.
     bool IsOpen() const { return m_depth > 0; }
 
+    /// What positions are relative to at this moment: (0, 0) inside a placement or a shape.
+    Point2 Origin() const;
     /// Where drawing calls go at this moment.
     DrawSink& Sink();
     /// Compiles into the sinks given until EndShape, whatever lists are opened meanwhile.
@@ -60,10 +63,11 @@ class ItemLists {
 
     std::size_t Count() const { return m_directory.Count(); }
     /// Whether something in the driver was compiled relative to the view's origin.
-    bool StandsOnOrigin() const { return Count() > 0 || m_driverOnly; }
+    bool StandsOnOrigin() const { return Count() > 0 || !m_driverOnly.empty(); }
     std::size_t DriverLists() const { return m_driverLists; }
-    /// Memory of the recordings.
+    /// Memory of the recordings, and neighbourhoods of IDs that hold any.
     std::size_t RecordBytes() const { return m_arena.Bytes(); }
+    std::size_t Pages() const { return m_directory.Pages(); }
 
   private:
     struct Open {
@@ -72,6 +76,7 @@ class ItemLists {
     };
     static constexpr unsigned kNoId = 0xFFFFFFFFu;
 
+    bool IsPlaced() const;
     GlSink::Setup GlSetup() const;
     Open OpenFor(unsigned id, KeepBy keep);
     void Forget(unsigned id, ItemEntry& entry);
@@ -90,9 +95,10 @@ class ItemLists {
     ScreenMatrix m_matrix;
     bool m_matrixKnown = false;
     std::size_t m_driverLists = 0;
-    bool m_driverOnly = false; // lists without recordings were made
+    std::unordered_set<unsigned> m_driverOnly; // lists without recordings, a host's among them
     unsigned m_fontBase = 0;
     bool m_replaying = false;
+    bool m_inShape = false;
 
     int m_depth = 0;
     Open m_open;

@@ -13,12 +13,14 @@ inline constexpr unsigned kSteppingLists = 0x7F000000u;
 inline constexpr unsigned kNoPickID = 0xFFFFFFFFu;
 inline constexpr unsigned kFontBlock = 256; ///< lists of one style of the outline font
 inline constexpr unsigned kFontStyles = 4;
-/// Where the outline font's blocks lie when the driver offers names that others use.
+/// Where the outline font's blocks lie when the driver offers names that others use. A new font is
+/// made before the former one goes, so there are two places.
 inline constexpr unsigned kFontLists = kSymbolLists - kFontBlock * kFontStyles;
+inline constexpr unsigned kOtherFontLists = kSteppingLists + 0x1000u;
 
-/// Whether a block of names that the driver offers meets those of symbols, characters and items.
-constexpr bool IsFreeForFonts(unsigned base, unsigned count) {
-    return base != 0 && (base + count <= kSymbolLists || base >= kSteppingLists);
+/// Whether a block of names that the driver offers lies far above symbols, characters and items.
+constexpr bool IsFreeForFonts(unsigned base) {
+    return base >= kSteppingLists;
 }
 
 /// Whether the symbol's list would bear the name of a character's or an item's list.
@@ -29,9 +31,10 @@ constexpr bool CollidesWithOthers(int symbol) {
            name >= kFirstPickID;
 }
 
-/// Whether an item's list may not bear its pick ID, since symbols and characters lie there.
+/// Whether an item's list may not bear its pick ID, since fonts, symbols and characters lie there.
 constexpr bool IsReservedForShapes(unsigned pickID) {
-    return pickID == 0 || (pickID >= kSymbolLists && pickID < kFirstPickID);
+    return pickID == 0 || (pickID >= kFontLists && pickID < kFirstPickID) ||
+           pickID >= kSteppingLists;
 }
 
 } // namespace zv

@@ -24,9 +24,9 @@ constexpr float kDeviation = 0.0f, kExtrusion = 0.15f;
 unsigned GenFontLists() {
     constexpr unsigned count = kFontBlock * kFontStyles;
     const unsigned base = glGenLists(count);
-    if (IsFreeForFonts(base, count)) return base;
+    if (IsFreeForFonts(base)) return base;
     if (base != 0) glDeleteLists(base, count);
-    return kFontLists;
+    return glIsList(kFontLists) ? kOtherFontLists : kFontLists;
 }
 
 } // namespace
@@ -60,7 +60,6 @@ bool OutlineFont::CreateGLList(std::size_t style) {
         wglUseFontOutlinesA(dc, 0, kFontBlock, m_base + static_cast<unsigned>(style) * kFontBlock,
                             kDeviation, kExtrusion, WGL_FONT_POLYGONS, metrics.data());
     SelectFont(dc, former);
-    if (made) GlScene::Current()->Shapes().SetFont(style, m_fonts[style]);
     return made;
 }
 
@@ -70,9 +69,11 @@ bool OutlineFont::Create(const std::string& face) {
     m_base = GenFontLists();
     for (std::size_t style = 0; style < kStyles.size(); ++style)
         if (!CreateGLList(style)) return false;
-    auto& lists = GlScene::Current()->Lists();
-    lists.SetFontBase(m_base);
-    lists.ShapesChanged();
+    auto& scene = *GlScene::Current();
+    for (std::size_t style = 0; style < kStyles.size(); ++style)
+        scene.Shapes().SetFont(style, m_fonts[style]);
+    scene.Lists().SetFontBase(m_base);
+    scene.Lists().ShapesChanged();
     return true;
 }
 

@@ -11,29 +11,30 @@ namespace zv {
 namespace {
 /// Vertices that are gathered before they are drawn; a single figure may bring more.
 constexpr std::size_t kMostGathered = 128 * 1024;
+
+void Enable(GLenum what, bool on) {
+    if (on)
+        glEnable(what);
+    else
+        glDisable(what);
+}
 } // namespace
 
 void ScreenBatch::Open(const ScreenMatrix& matrix) {
     m_open = true;
     m_region = {};
     m_grid.Reset(matrix);
-    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT |
-                 GL_TRANSFORM_BIT);
-    glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
-    glMatrixMode(GL_MODELVIEW);
-    glPushMatrix();
-    if (matrix.modelView) glLoadMatrixd(matrix.modelView->data());
-    glBindBuffer(GL_ARRAY_BUFFER, 0);
-    glEnableClientState(GL_VERTEX_ARRAY);
-    glEnableClientState(GL_COLOR_ARRAY);
+    if (matrix.modelView)
+        m_outer.modelView = *matrix.modelView;
+    else
+        glGetDoublev(GL_MODELVIEW_MATRIX, m_outer.modelView.data());
+    m_outer.logicOp = glIsEnabled(GL_COLOR_LOGIC_OP);
+    m_outer.blend = glIsEnabled(GL_BLEND);
+    glGetIntegerv(GL_LOGIC_OP_MODE, &m_outer.operation);
 }
 
 void ScreenBatch::Close() {
     Flush();
-    glMatrixMode(GL_MODELVIEW);
-    glPopMatrix();
-    glPopClientAttrib();
-    glPopAttrib();
     m_open = false;
 }
 
@@ -80,7 +81,34 @@ void ScreenBatch::Commit(std::size_t used) {
     m_gathered += used;
 }
 
+void ScreenBatch::EnterState() const {
+    glMatrixMode(GL_MODELVIEW);
+    glPushMatrix();
+    glLoadMatrixd(m_outer.modelView.data());
+    Enable(GL_COLOR_LOGIC_OP, m_outer.logicOp);
+    Enable(GL_BLEND, m_outer.blend);
+    glLogicOp(static_cast<GLenum>(m_outer.operation));
+    glBindBuffer(GL_ARRAY_BUFFER, 0);
+    glEnableClientState(GL_VERTEX_ARRAY);
+    glEnableClientState(GL_COLOR_ARRAY);
+}
+
 void ScreenBatch::Flush() {
+    if (m_count == 0) return;
+    glPushAttrib(GL_ENABLE_BIT | GL_LINE_BIT | GL_CURRENT_BIT | GL_COLOR_BUFFER_BIT |
+                 GL_TRANSFORM_BIT);
+    glPushClientAttrib(GL_CLIENT_VERTEX_ARRAY_BIT);
+    EnterState();
+    DrawBundles();
+    glPopMatrix();
+    glPopClientAttrib();
+    glPopAttrib();
+    m_count = 0;
+    m_gathered = 0;
+    m_grid.Reset();
+}
+
+void ScreenBatch::DrawBundles() {
     for (int i = 0; i < m_count; ++i) {
         Bundle& bundle = m_bundles[static_cast<std::size_t>(i)];
         Apply(bundle.state);
@@ -93,9 +121,6 @@ void ScreenBatch::Flush() {
         bundle.counts.clear();
         if (bundle.vertices.size() > kMostGathered) bundle.vertices = {};
     }
-    m_count = 0;
-    m_gathered = 0;
-    m_grid.Reset();
 }
 
 void ScreenBatch::Apply(const State& state) {

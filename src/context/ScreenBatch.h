@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -15,15 +16,16 @@ struct ScreenVertex {
 };
 
 /// Gathers figures that share their state and hands each bundle to OpenGL in one call. Figures that
-/// overlap on the screen are drawn in the order in which they came; others need not be. While it is
-/// open the OpenGL state is its own.
+/// overlap on the screen are drawn in the order in which they came; others need not be. They meet
+/// the screen by the logic operation, the blending and the matrix of the moment at which the batch
+/// was opened, whatever is set until it draws; the OpenGL state is left as it is found.
 class ScreenBatch {
   public:
     enum class Shape : std::uint8_t { Lines, LineStrips, Triangles };
 
     bool IsOpen() const { return m_open; }
     void Open(const ScreenMatrix& matrix);
-    /// Draws what is gathered and puts the state back.
+    /// Draws what is gathered.
     void Close();
 
     /// What the figures to come cover, relative to the matrix' center.
@@ -55,8 +57,17 @@ class ScreenBatch {
     int FindBundle(const State& state, int first) const;
     int BundleFor(const State& state);
     void Flush();
+    void EnterState() const;
+    void DrawBundles();
 
+    /// What held as the batch was opened.
+    struct Outer {
+        std::array<double, 16> modelView{};
+        bool logicOp = false, blend = false;
+        int operation = 0;
+    };
     bool m_open = false;
+    Outer m_outer;
     Box m_region;
     OverlapGrid m_grid;
     std::vector<Bundle> m_bundles; // of which m_count are in use

@@ -16,10 +16,12 @@ namespace {
 using Vertex = std::array<double, 3>;
 
 /// What the callbacks share. A deque keeps its vertices where they are: the tessellator holds their
-/// addresses to the end of the polygon.
+/// addresses to the end of the polygon. It works out crossings with single-precision weights, so it
+/// is given positions relative to the first vertex; the vertices kept here are the map's.
 struct Run {
     DrawSink& sink;
     std::deque<Vertex> vertices;
+    Vertex origin{};
 };
 
 constexpr const char* kTitle = "polygon";
@@ -44,9 +46,10 @@ void OnEnd(void* user) {
 
 /// A crossing of edges: a new vertex at its place, otherwise like the first of those that meet.
 void OnCombine(double place[3], void* met[4], float[4], void** out, void* user) {
-    auto& vertices = static_cast<Run*>(user)->vertices;
+    Run& run = *static_cast<Run*>(user);
     const double z = met[0] ? (*static_cast<const Vertex*>(met[0]))[2] : 0.0;
-    *out = &vertices.emplace_back(Vertex{place[0], place[1], z});
+    *out =
+        &run.vertices.emplace_back(Vertex{place[0] + run.origin[0], place[1] + run.origin[1], z});
 }
 
 void OnError(GLenum error, void*) {
@@ -68,7 +71,8 @@ void Feed(GLUtesselator* tess, std::span<const double> vertices, Run& run) {
     for (std::size_t i = 0; i + 3 < vertices.size(); i += 3) {
         if (!std::isfinite(vertices[i]) || !std::isfinite(vertices[i + 1])) continue;
         run.vertices.push_back({vertices[i], vertices[i + 1], vertices[i + 2]});
-        Vertex flat{vertices[i], vertices[i + 1], 0.0};
+        if (run.vertices.size() == 1) run.origin = run.vertices.front();
+        Vertex flat{vertices[i] - run.origin[0], vertices[i + 1] - run.origin[1], 0.0};
         gluTessVertex(tess, flat.data(), &run.vertices.back());
     }
 }
@@ -76,14 +80,13 @@ void Feed(GLUtesselator* tess, std::span<const double> vertices, Run& run) {
 } // namespace
 
 int TessellatePolygon(std::span<const double> vertices, int mode, DrawSink& sink) {
-    const std::unique_ptr<GLUtesselator, decltype(&gluDeleteTess)> tess(gluNewTess(),
-                                                                        gluDeleteTess);
+    std::unique_ptr<GLUtesselator, decltype(&gluDeleteTess)> tess(gluNewTess(), gluDeleteTess);
     if (!tess) {
         MessageBoxA("Create Tessalate Polygon failed", kTitle, MB_OK);
         return 0;
     }
     const Compose compose = mode == 1 ? Compose::Xor : Compose::Blend;
-    Run run{sink, {}};
+    Run run{sink, {}, {}};
     SetCallbacks(tess.get());
     sink.BeginCompose(compose);
     gluTessBeginPolygon(tess.get(), &run);
@@ -91,6 +94,8 @@ int TessellatePolygon(std::span<const double> vertices, int mode, DrawSink& sink
     Feed(tess.get(), vertices, run);
     gluTessEndContour(tess.get());
     gluTessEndPolygon(tess.get());
+    tess.reset();
+    if (mode != 0) glFlush(); // who drags an area wants to see it at once
     sink.EndCompose(compose);
     return 1;
 }

@@ -3,6 +3,7 @@
 #include <GL/gl.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "context/Brightness.h"
 #include "context/GlScene.h"
@@ -66,8 +67,12 @@ bool CZvDispGL::MakeContextCurrent() {
 }
 
 bool CZvDispGL::Create(HDC dc) {
+    Destroy();
     m_dc = dc;
-    if (!MakePixelFormat() || !MakeContextCurrent()) zv::GetMessageHost().ExitProcess(1);
+    if (!MakePixelFormat() || !MakeContextCurrent()) {
+        zv::GetMessageHost().ExitProcess(1);
+        return false; // where somebody stands in for the end of the process
+    }
     CreateCharDisplayList();
     const CZvDispSymbols loadsTheLibrary(CZvDispPoint(), 26);
     CreateSymbolDisplayList();
@@ -79,6 +84,8 @@ void CZvDispGL::Destroy() {
     m_rc = nullptr;
     m_symbolsBuilt = false;
     m_outlineFont.reset();
+    m_outlineFontIndex = 0;
+    m_outlineFontContext = nullptr;
 }
 
 void CZvDispGL::Start() {
@@ -113,7 +120,8 @@ void CZvDispGL::SetView(CZvDispPoint& lowerLeft, CZvDispPoint& upperRight) {
 
 void CZvDispGL::GLViewport() {
     const auto pixel = [this](std::size_t i) {
-        return static_cast<GLint>(std::clamp(m_viewport[i], -1e6, 1e6));
+        const double value = std::isnan(m_viewport[i]) ? 0.0 : m_viewport[i];
+        return static_cast<GLint>(std::clamp(value, -1e6, 1e6));
     };
     glViewport(pixel(0), pixel(1), std::max(pixel(2), 0), std::max(pixel(3), 0));
 }
@@ -132,9 +140,9 @@ void CZvDispGL::GLOrtho(const CZvDispPoint& lowerLeft, const CZvDispPoint& upper
 }
 
 CZvDispPoint CZvDispGL::GLOrigin() const {
-    const auto* scene = zv::GlScene::Current();
-    return scene ? CZvDispPoint(scene->View().Origin().x, scene->View().Origin().y)
-                 : CZvDispPoint();
+    auto* scene = zv::GlScene::Current();
+    const zv::Point2 origin = scene ? scene->Lists().Origin() : zv::Point2{};
+    return {origin.x, origin.y};
 }
 
 void CZvDispGL::SetTransLate(double x, double y, double z) {

@@ -45,6 +45,8 @@ class ZVDISP_API CZvDispGL : public CZvDisplayContext {
     virtual void V_OnTempSymbols(CZvDispSymbols& symbol);
     virtual void V_GLSymbol(CZvDispSymbols& symbol);
     virtual void V_GLArc(CZvDispArc& arc);
+    /// Draws the members as the frame does: their visibility, the group's colour, and the display
+    /// info that names one of them hold.
     virtual void V_GLGroup(CZvDispGroup& group);
     virtual void V_GLCircle(CZvDispCircle& circle);
     virtual void V_GLPolyline(CZvDispPolyLine& line);
@@ -55,7 +57,8 @@ class ZVDISP_API CZvDispGL : public CZvDisplayContext {
     virtual void V_GLVertice(const CZvDispPoint& point);
     virtual bool V_Redraw(unsigned id);
 
-    /// Makes the rendering context, character and symbol lists; the process ends when a step fails.
+    /// Makes the rendering context, character and symbol lists, in place of those of a former call.
+    /// The process ends when a step fails; false where a host keeps it from ending.
     bool Create(HDC dc);
     void Destroy();
     /// Makes the rendering context current; a failure is reported and the process goes on.
@@ -111,8 +114,9 @@ class ZVDISP_API CZvDispGL : public CZvDisplayContext {
     using CZvDisplayContext::DrawStrokeFontLetter;
     /// Where drawing calls go: OpenGL, the list that is open, or both.
     zv::DrawSink& Sink();
-    /// What list vertices are relative to, for a subclass that calls OpenGL itself; such a one must
-    /// say so first, with false: its items are then kept in driver lists only.
+    /// What list vertices are relative to, (0, 0) inside a symbol's placement or shape, for a
+    /// subclass that calls OpenGL itself; such a one must say so first, with false: its items are
+    /// then kept in driver lists only.
     CZvDispPoint GLOrigin() const;
     void SetItemRecording(bool on) { m_recordItems = on; }
 
@@ -135,15 +139,19 @@ class ZVDISP_API CZvDispGL : public CZvDisplayContext {
     void FillPolygon(CZvDispPolygon& polygon);
     void DrawSymbolFromList(CZvDispSymbols& symbol);
     void DrawSymbolByMembers(CZvDispSymbols& symbol);
+    void BuildSymbolLists();
     void BuildSymbolList(int number);
     void PlaceMembers(CZvDispSymbols& symbol, void (CZvDispGL::*draw)(CZvDisplayItem&));
     void DrawMember(CZvDisplayItem& member);
     void DrawTempMember(CZvDisplayItem& member);
     void DrawStrokeCharacters(const std::string& label);
-    bool ReplaceOutlineFont(const std::string& face);
+    bool ReplaceOutlineFont(int index);
+    void FollowFontIndex();
 
     HDC m_dc = nullptr;
     HGLRC m_rc = nullptr;
     bool m_recordItems = true;
     std::unique_ptr<zv::OutlineFont> m_outlineFont;
+    int m_outlineFontIndex = 0;           // for which a font was made, or tried, last
+    HGLRC m_outlineFontContext = nullptr; // where
 };

@@ -1,3 +1,5 @@
+#include <GL/gl.h>
+
 #include <cmath>
 #include <numbers>
 #include <vector>
@@ -5,6 +7,7 @@
 #include "context/DrawSink.h"
 #include "context/GlListScope.h"
 #include "context/GlScene.h"
+#include "context/RaisedFlag.h"
 #include "context/Tessellator.h"
 #include "platform/zvlogs/ZvLog.h"
 
@@ -49,10 +52,12 @@ void CZvDispGL::GLNewList(CZvDisplayItem& item) {
     auto* scene = zv::GlScene::Current();
     if (!scene) return;
     const ZVDispType kind = item.GetDispType();
+    const bool mayHoldOthers = kind == ZV_DISP_SYMBOL || kind == ZV_DISP_GROUP;
     // Before the list opens, since lists do not nest while they are compiled.
-    if (!m_symbolsBuilt && !m_buildingSymbols && !scene->Lists().IsOpen() &&
-        (kind == ZV_DISP_SYMBOL || kind == ZV_DISP_GROUP))
-        CreateSymbolDisplayList();
+    if (!scene->Lists().IsOpen()) {
+        if (mayHoldOthers && !m_symbolsBuilt && !m_buildingSymbols) CreateSymbolDisplayList();
+        if (mayHoldOthers || kind == ZV_DISP_TEXT) FollowFontIndex();
+    }
     scene->Lists().NewList(item.GetPickID(), KeepItemsBy());
 }
 
@@ -82,15 +87,12 @@ void CZvDispGL::DrawArc(CZvDispArc& arc) {
 
 void CZvDispGL::DrawGroup(CZvDispGroup& group) {
     const ListScope list(*this, group);
-    const bool outer = m_inGroup;
-    m_inGroup = true;
-    CZvDisplayContext::DrawGroup(group);
-    m_inGroup = outer;
+    const zv::RaisedFlag inGroup(m_inGroup);
+    V_GLGroup(group);
 }
 
 void CZvDispGL::V_GLGroup(CZvDispGroup& group) {
-    for (CZvDisplayItem* member : *group.GetGroupList())
-        if (member && member->GetVisibility()) DrawDispItem(member);
+    CZvDisplayContext::DrawGroup(group);
 }
 
 void CZvDispGL::V_GLVertice(const CZvDispPoint& point) {
@@ -166,6 +168,7 @@ void CZvDispGL::V_GLArc(CZvDispArc& arc) {
 }
 
 void CZvDispGL::V_OnTempPolygon(CZvDispPolygon& polygon) {
+    glPolygonMode(GL_FRONT_AND_BACK, GL_FILL);
     const zv::TemporaryScope temporary(KeepItemsBy());
     GLSetColor(polygon);
     GLSetLineWidth(polygon);

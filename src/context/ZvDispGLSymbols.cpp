@@ -4,6 +4,7 @@
 #include "context/GlListScope.h"
 #include "context/GlScene.h"
 #include "context/ListNames.h"
+#include "context/RaisedFlag.h"
 #include "platform/Numbers.h"
 #include "platform/zvlogs/ZvLog.h"
 
@@ -11,11 +12,27 @@
 
 namespace {
 
-/// Symbols whose members keep colours and widths of their own.
+/// Symbols whose members keep colours and widths of their own, and those that have no list.
 bool IsDrawnByMembers(int number) {
     return (number >= 600 && number <= 799) || (number >= 23 && number <= 26) || number == 500 ||
-           number == 501 || number >= 1000;
+           number == 501 || number >= 1000 || zv::CollidesWithOthers(number);
 }
+
+/// Makes an item inactive, or active, for the time of a draw: members of a symbol belong to all of
+/// its instances.
+class LentActivity {
+  public:
+    LentActivity(CZvDisplayItem& item, bool inactive) : m_item(item), m_own(item.GetInActive()) {
+        m_item.SetInActive(inactive);
+    }
+    ~LentActivity() { m_item.SetInActive(m_own); }
+    LentActivity(const LentActivity&) = delete;
+    LentActivity& operator=(const LentActivity&) = delete;
+
+  private:
+    CZvDisplayItem& m_item;
+    bool m_own;
+};
 
 zv::Affine PlaceOf(CZvDispSymbols& symbol) {
     const CZvDispPoint& center = symbol.GetCenter();
@@ -54,7 +71,7 @@ void CZvDispGL::PlaceMembers(CZvDispSymbols& symbol, void (CZvDispGL::*draw)(CZv
     for (CZvDisplayItem* member : *members) {
         if (!member->GetVisibility()) continue;
         const zv::PlaceScope place(Sink(), PlaceOf(symbol));
-        member->SetInActive(symbol.GetInActive());
+        const LentActivity activity(*member, symbol.GetInActive());
         (this->*draw)(*member);
     }
 }
@@ -82,7 +99,13 @@ void CZvDispGL::V_OnTempSymbols(CZvDispSymbols& symbol) {
 void CZvDispGL::CreateSymbolDisplayList() {
     auto* scene = zv::GlScene::Current();
     if (!scene || scene->Lists().IsOpen()) return;
-    m_buildingSymbols = true;
+    BuildSymbolLists();
+    m_symbolsBuilt = true;
+    scene->Lists().ShapesChanged();
+}
+
+void CZvDispGL::BuildSymbolLists() {
+    const zv::RaisedFlag building(m_buildingSymbols);
     for (const int number : *CZvDispSymbols::S_GetSymbolNumList()) {
         if (zv::CollidesWithOthers(number))
             CZvLog::Output("Symbol " + zv::FormatInt(number) +
@@ -91,9 +114,6 @@ void CZvDispGL::CreateSymbolDisplayList() {
         else
             BuildSymbolList(number);
     }
-    m_buildingSymbols = false;
-    m_symbolsBuilt = true;
-    scene->Lists().ShapesChanged();
 }
 
 void CZvDispGL::BuildSymbolList(int number) {

@@ -107,7 +107,11 @@ void CZvDispGL::DrawStrokeFontLetter(char c) {
 
 void CZvDispGL::V_GLTrueTypeText(CZvDispText& text) {
     const std::string label = OutlineLabel(text.Label());
-    if (label.empty() || !m_outlineFont) return;
+    if (label.empty()) return;
+    if (!m_outlineFont) {
+        V_GLStrokeText(text); // better a plain text than none
+        return;
+    }
     // The frame gives the start of a text; that of one justified right lies a width to the left.
     const char justify = text.GetHorzJustify();
     text.SetHorzJustify('r');
@@ -118,6 +122,8 @@ void CZvDispGL::V_GLTrueTypeText(CZvDispText& text) {
     const double size = text.GetVertHeight() * 12.0 * dpi * (1.0 / 72) * 0.1;
     charScaleX = charScaleY = charScaleZ = size;
     GLSetColor(text);
+    // The start is a step along the map's x axis in map units, taken before the text is turned: a
+    // turned text that is not justified left keeps its start beside its point.
     const zv::PlaceScope place(Sink(), At(text.GetPoint()) * zv::Affine::Shift(start, 0.0) *
                                            zv::Affine::Turn(text.GetDegree()) *
                                            zv::Affine::Stretch(size, size));
@@ -136,16 +142,28 @@ void CZvDispGL::CreateCharDisplayList() {
     if (m_nFontIndex <= 0) return;
     if (!wglGetCurrentDC())
         AfxMessageBox("wglGetCurrentDC() return NULL");
-    else if (!ReplaceOutlineFont(GetFontName(m_nFontIndex)))
+    else if (!ReplaceOutlineFont(m_nFontIndex))
         AfxMessageBox("Unable to use true type Font");
 }
 
-bool CZvDispGL::ReplaceOutlineFont(const std::string& face) {
-    m_outlineFont.reset();
+/// A face that fails leaves the former font, or strokes where there is none.
+bool CZvDispGL::ReplaceOutlineFont(int index) {
+    if (m_outlineFontContext != wglGetCurrentContext()) m_outlineFont.reset();
+    m_outlineFontContext = wglGetCurrentContext();
+    m_outlineFontIndex = index;
+    const std::string face = GetFontName(index);
     auto font = std::make_unique<zv::OutlineFont>();
-    if (!font->Create(face)) return false;
+    if (!zv::FontExists(face) || !font->Create(face)) return false;
     m_outlineFont = std::move(font);
     return true;
+}
+
+/// The index is common to all contexts, but each has a font of its own. A failure is told once.
+void CZvDispGL::FollowFontIndex() {
+    if (m_nFontIndex <= 0) return;
+    if (m_nFontIndex == m_outlineFontIndex && m_outlineFontContext == wglGetCurrentContext())
+        return;
+    if (!ReplaceOutlineFont(m_nFontIndex)) AfxMessageBox("Unable to use true type Font");
 }
 
 void CZvDispGL::SetFontIndex(int index) {
@@ -154,8 +172,7 @@ void CZvDispGL::SetFontIndex(int index) {
     const std::string face = GetFontName(index);
     if (!wglGetCurrentDC())
         AfxMessageBox("SetFontIndex-wglGetCurrentDC() return NULL");
-    else if (!zv::FontExists(face))
-        AfxMessageBox(face + " - Unable to use this Font");
-    else if (!ReplaceOutlineFont(face))
-        AfxMessageBox("SetFontIndex-Unable to use true type Font");
+    else if (!ReplaceOutlineFont(index))
+        AfxMessageBox(zv::FontExists(face) ? "SetFontIndex-Unable to use true type Font"
+                                           : face + " - Unable to use this Font");
 }

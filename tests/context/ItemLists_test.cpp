@@ -170,6 +170,64 @@ TEST_F(ItemListsTest, RedefiningOneItemOverAndOverHoldsNoMoreMemory) {
     EXPECT_LE(lists.RecordBytes(), 3u << 20);
 }
 
+TEST_F(ItemListsTest, MemoryOfIDsThatRiseForeverIsUsedAgain) {
+    for (unsigned id = 10001; id < 60001; ++id) {
+        Compile(id, 20);
+        if (id >= 10011) lists.DeleteList(id - 10);
+    }
+    EXPECT_EQ(lists.Count(), 10u);
+    EXPECT_LE(lists.Pages(), 2u);
+    EXPECT_TRUE(lists.IsList(60000));
+    EXPECT_FALSE(lists.IsList(59990));
+    for (unsigned id = 59991; id < 60001; ++id)
+        lists.DeleteList(id);
+    EXPECT_EQ(lists.Pages(), 0u);
+    EXPECT_FALSE(lists.IsList(60000));
+}
+
+TEST_F(ItemListsTest, OnlyListsStandOnTheOriginAndOnlyAsLongAsTheyExist) {
+    EXPECT_FALSE(lists.StandsOnOrigin());
+    lists.NewList(kNoPickID, KeepBy::DriverOnly);
+    DrawRow(20);
+    lists.EndList();
+    EXPECT_FALSE(lists.StandsOnOrigin());
+    lists.NewList(10001, KeepBy::DriverOnly);
+    DrawRow(20);
+    lists.EndList();
+    EXPECT_TRUE(lists.StandsOnOrigin());
+    lists.DeleteList(10001);
+    EXPECT_FALSE(lists.StandsOnOrigin());
+    Compile(10002, 20);
+    EXPECT_TRUE(lists.StandsOnOrigin());
+    lists.DeleteList(10002);
+    EXPECT_FALSE(lists.StandsOnOrigin());
+}
+
+TEST_F(ItemListsTest, WhatIsDrawnIntoAHostsListStandsOnTheOriginToo) {
+    glNewList(50000, GL_COMPILE);
+    lists.NewList(kNoPickID);
+    DrawRow(20);
+    lists.EndList();
+    glEndList();
+    EXPECT_TRUE(lists.StandsOnOrigin());
+    lists.CallList(50000);
+    EXPECT_EQ(Show().CountOf(kWhite), 40);
+    lists.DeleteList(50000);
+    EXPECT_FALSE(lists.StandsOnOrigin());
+}
+
+TEST_F(ItemListsTest, AnItemKeptByTheDriverOnlyTakesNoNameOfOthersEither) {
+    glNewList(4065, GL_COMPILE);
+    glEndList();
+    lists.NewList(4065, KeepBy::DriverOnly);
+    DrawRow(20);
+    lists.EndList();
+    EXPECT_EQ(Show().CountOf(kWhite), 40); // drawn at once
+    lists.CallList(4065);
+    EXPECT_EQ(Show().CountOf(kWhite), 0);
+    EXPECT_TRUE(glIsList(4065));
+}
+
 TEST(CutLine, KeepsWhatLiesInside) {
     const Box box{-10, -10, 10, 10};
     struct {
@@ -270,6 +328,13 @@ TEST(ListNames, SymbolsCollideWithCharactersAndItems) {
     EXPECT_TRUE(CollidesWithOthers(8001));
     EXPECT_TRUE(CollidesWithOthers(2147483647));
     EXPECT_TRUE(CollidesWithOthers(-1));
+}
+
+TEST(ListNames, ItemsKeepAwayFromFontsSymbolsAndCharacters) {
+    for (const unsigned id : {0u, 976u, 1999u, 2000u, 10000u, 0x7F000000u, 0xFFFFFFFEu})
+        EXPECT_TRUE(IsReservedForShapes(id)) << id;
+    for (const unsigned id : {1u, 975u, 10001u, 0x7EFFFFFFu})
+        EXPECT_FALSE(IsReservedForShapes(id)) << id;
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 #include "context/GlMap.h"
 #include "context/StrokeFont.h"
 #include "platform/wgl/WglFailure.h"
+#include "platform/wgl/WglObjects.h"
 
 namespace zv::testing {
 namespace {
@@ -178,6 +179,60 @@ TEST(ZvDispGLView, WithoutAnyContextDrawingDoesNothing) {
     gl.DrawDispItem(&line);
     gl.Redraw(10001);
     EXPECT_FALSE(gl.IsItemList(10001));
+}
+
+TEST(ZvDispGLCreate, AsksForAWindowWithTwoBuffersInColorAndDepth) {
+    GlMap map;
+    const PIXELFORMATDESCRIPTOR& asked = map.Dc()->asked;
+    EXPECT_EQ(asked.nVersion, 1);
+    EXPECT_EQ(asked.dwFlags, 37u);
+    EXPECT_EQ(asked.iPixelType, 0); // RGBA
+    EXPECT_EQ(asked.cColorBits, 8);
+    EXPECT_EQ(asked.cDepthBits, 16);
+}
+
+TEST(ZvDispGLCreate, IsFalseWhereTheProcessIsKeptFromEnding) {
+    class KeepingHost : public HeadlessMessageHost {
+      public:
+        void ExitProcess(int exitCode) override { code = exitCode; }
+        int code = 0;
+    } host;
+    MessageHost* const before = SetMessageHost(&host);
+    const TestSurface surface;
+    CZvDispGL gl;
+    FailNextWgl(WglStep::CreateContext, 6);
+    EXPECT_FALSE(gl.Create(surface.Dc()));
+    SetMessageHost(before);
+    EXPECT_EQ(host.code, 1);
+    EXPECT_EQ(gl.GetRenderContext(), nullptr);
+}
+
+TEST(ZvDispGLCreate, CreatedTwiceItStartsAnew) {
+    GlMap map;
+    CZvDispPolyLine line;
+    MakeRow(line, 10, 50, 20);
+    line.SetPickID(10001);
+    map.gl.DrawDispItem(&line);
+    EXPECT_TRUE(map.gl.Create(map.Dc()));
+    EXPECT_EQ(wglGetCurrentContext(), map.gl.GetRenderContext());
+    EXPECT_FALSE(map.gl.IsItemList(10001));
+    map.Clear();
+    map.gl.DrawDispItem(&line);
+    EXPECT_EQ(map.Redraw({10001}).CountOf(kWhite), 40);
+}
+
+TEST(ZvDispGLView, AViewportThatIsNoNumberIsZero) {
+    GlMap map(8, 8);
+    const double nan = std::nan("");
+    map.gl.Resize(nan, nan, nan, 4);
+    map.Clear();
+    GLint viewport[4];
+    glGetIntegerv(GL_VIEWPORT, viewport);
+    EXPECT_EQ(viewport[0], 0);
+    EXPECT_EQ(viewport[1], 0);
+    EXPECT_EQ(viewport[2], 0);
+    EXPECT_EQ(viewport[3], 4);
+    EXPECT_EQ(glGetError(), static_cast<GLenum>(GL_NO_ERROR));
 }
 
 } // namespace

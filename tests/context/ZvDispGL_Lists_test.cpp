@@ -184,10 +184,12 @@ TEST(ZvDispGLLists, SelectionNamesTheItemUnderTheCursor) {
     glTranslatef((64.0f - 2 * 30) / 8, (64.0f - 2 * 10) / 8, 0);
     glScalef(64.0f / 8, 64.0f / 8, 1);
     glMatrixMode(GL_MODELVIEW);
+    map.gl.V_Open(); // as a map does around its walk
     for (const unsigned id : {10001u, 10002u}) {
         glLoadName(id);
         EXPECT_TRUE(map.gl.V_Redraw(id));
     }
+    map.gl.V_Close();
     const int count = glRenderMode(GL_RENDER);
     glMatrixMode(GL_PROJECTION);
     glPopMatrix();
@@ -272,6 +274,63 @@ TEST(ZvDispGLLists, ItemsBeyondTheDriversShareAreKeptAllTheSame) {
     line.SetPickID(last);
     map.gl.DrawDispItem(&line);
     EXPECT_TRUE(glIsList(last));
+}
+
+TEST(ZvDispGLLists, ATemporaryByExclusiveOrLeavesWhatWasGatheredAsItIs) {
+    GlMap map;
+    map.gl.SetBKColor(static_cast<ZVColor>(4));
+    CZvDispPolyLine line, temporary;
+    MakeRow(line, 10, 50, 20);
+    line.SetColor(static_cast<ZVColor>(1), 0);
+    line.SetPickID(10001);
+    map.gl.DrawDispItem(&line);
+    MakeRow(temporary, 10, 50, 40);
+    temporary.SetColor(static_cast<ZVColor>(1), 0);
+    map.Clear();
+    map.gl.V_Open();
+    map.gl.Redraw(10001);
+    glEnable(GL_COLOR_LOGIC_OP);
+    glLogicOp(GL_XOR);
+    map.gl.DrawDispItem(&temporary);
+    EXPECT_TRUE(glIsEnabled(GL_COLOR_LOGIC_OP));
+    glDisable(GL_COLOR_LOGIC_OP);
+    map.gl.V_Close();
+    const auto picture = map.Show();
+    const Rgb c = Palette(1), b = Palette(4);
+    EXPECT_EQ(picture.At(30, 63 - 20), c);
+    EXPECT_EQ(picture.At(30, 63 - 40), (Rgb{c.r ^ b.r, c.g ^ b.g, c.b ^ b.b}));
+}
+
+TEST(ZvDispGLLists, PositionsAreRelativeToTheViewUntilAPlacementHolds) {
+    class Direct : public OpenGL {
+      public:
+        Direct() { SetItemRecording(false); }
+        void V_GLVertice(const CZvDispPoint&) override { origins.push_back(GLOrigin()); }
+        std::vector<CZvDispPoint> origins;
+    };
+    GlMap map;
+    TestSurface surface(64, 64);
+    Direct direct;
+    direct.Create(surface.Dc());
+    direct.Resize(0, 0, 64, 64);
+    CZvDispPoint lowerLeft(1000, 2000), upperRight(1064, 2064);
+    direct.SetView(lowerLeft, upperRight);
+    CZvDispPolyLine line;
+    line.SetVertices({{1010, 2010}, {1020, 2010}});
+    direct.DrawDispItem(&line);
+    auto* member = new CZvDispPolyLine;
+    member->SetVertices({{1, 1}, {2, 2}});
+    CZvDispSymbols::S_AddExternalSymbols(new std::list<CZvDisplayItem*>{member}, 600);
+    CZvDispSymbols symbol(CZvDispPoint(1020, 2020), 600);
+    direct.DrawDispItem(&symbol);
+    direct.CreateSymbolDisplayList();
+    ASSERT_EQ(direct.origins.size(), 6u); // two vertices each
+    EXPECT_EQ(direct.origins[0].GetX(), 1032.0);
+    EXPECT_EQ(direct.origins[0].GetY(), 2032.0);
+    EXPECT_EQ(direct.origins[2].GetX(), 0.0); // inside the symbol's placement
+    EXPECT_EQ(direct.origins[4].GetX(), 0.0); // inside the symbol's shape
+    direct.Destroy();
+    map.gl.Start();
 }
 
 } // namespace

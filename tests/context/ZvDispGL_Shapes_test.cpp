@@ -264,5 +264,17 @@ TEST(ZvDispGLShapes, ErasingByExclusiveOrLeavesNoPixel) {
     EXPECT_EQ(map.Show().CountOther(kBlack), 0);
 }
 
+TEST(ZvDispGLShapes, ATemporaryPolygonIsFilledWhateverTheModeWas) {
+    GlMap map;
+    CZvDispPolygon polygon;
+    polygon.SetVertices(Rectangle(10, 10, 50, 50));
+    glPolygonMode(GL_FRONT_AND_BACK, GL_LINE);
+    map.gl.V_OnTempPolygon(polygon);
+    GLint modes[2];
+    glGetIntegerv(GL_POLYGON_MODE, modes);
+    EXPECT_EQ(modes[0], GL_FILL);
+    EXPECT_EQ(map.Show().CountOf(kWhite), 1600);
+}
+
 } // namespace
 } // namespace zv::testing

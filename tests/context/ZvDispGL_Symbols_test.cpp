@@ -244,5 +244,42 @@ TEST(ZvDispGLSymbols, AnUnknownSymbolDrawsNothing) {
     EXPECT_EQ(map.Show().CountOther(kBlack), 0);
 }
 
+TEST(ZvDispGLSymbols, DrawnOutsideAListItStandsInItsPlaceFarFromTheOrigin) {
+    GlMap map;
+    AddSymbol(map, 600, {Bar(-1, 2)});
+    CZvDispSymbols symbol;
+    MakeSymbol(symbol, 600);
+    symbol.SetCenter({1.5e6 + 32.5, 1e7 + 20.5});
+    const auto view = [&] { map.View(1.5e6, 1e7, 1.5e6 + 64, 1e7 + 64); };
+    view();
+    map.gl.DrawDispItem(&symbol);
+    const auto listed = map.Show();
+    EXPECT_NEAR(listed.CountOther(kBlack), 30, 1);
+    view();
+    map.gl.V_GLSymbol(symbol);
+    EXPECT_NEAR(map.Show().CountOther(kBlack), 30, 1);
+    EXPECT_EQ(map.Show().BoxOfOther(kBlack), listed.BoxOfOther(kBlack));
+}
+
+TEST(ZvDispGLSymbols, ANegativeNumberHasNoListAndIsDrawnMemberByMember) {
+    GlMap map;
+    AddSymbol(map, -5, {Bar(-1, 2, 0, 2)});
+    EXPECT_FALSE(glIsList(1995));
+    CZvDispSymbols symbol;
+    MakeSymbol(symbol, -5, 1);
+    EXPECT_NEAR(map.Draw(symbol).CountOther(kBlack), 30, 1);
+}
+
+TEST(ZvDispGLSymbols, ItsMembersBelongToAllAndStayActive) {
+    GlMap map;
+    auto* bar = Bar(-1, 2, 0, 2);
+    AddSymbol(map, 600, {bar});
+    CZvDispSymbols symbol;
+    MakeSymbol(symbol, 600);
+    symbol.SetInActive(true);
+    map.Draw(symbol);
+    EXPECT_FALSE(bar->GetInActive());
+}
+
 } // namespace
 } // namespace zv::testing

@@ -304,5 +304,87 @@ TEST(ZvDispGLFonts, AContextMadeWhileAnOutlineFontIsSelectedHasIt) {
     first.gl.Start();
 }
 
+/// A second display context, made while the stroke font is selected.
+class TwoContexts : public ::testing::Test {
+  protected:
+    TwoContexts() {
+        second.Create(m_surface.Dc());
+        second.Resize(0, 0, 64, 64);
+    }
+    ~TwoContexts() override {
+        second.Destroy();
+        first.gl.Start();
+    }
+    /// A letter as the second context shows it.
+    Picture DrawOnSecond() {
+        CZvDispPoint lowerLeft(0, 0), upperRight(64, 64);
+        second.SetView(lowerLeft, upperRight);
+        CZvDispText text;
+        MakeText(text, "H", 10, 10, 20);
+        second.DrawDispItem(&text);
+        second.Render();
+        return m_surface.Shown();
+    }
+    GlMap first;
+    OpenGL second;
+
+  private:
+    TestSurface m_surface{64, 64};
+};
+
+TEST_F(TwoContexts, BothFollowTheFontThatOneSelects) {
+    const auto strokes = DrawOnSecond();
+    first.gl.Start();
+    first.gl.SetFontIndex(5);
+    const auto outline = DrawOnSecond();
+    EXPECT_GT(outline.CountOther(kBlack), 100);
+    EXPECT_FALSE(outline == strokes);
+    first.gl.Start();
+    first.gl.SetFontIndex(1);
+    const auto other = DrawOnSecond();
+    EXPECT_GT(other.CountOther(kBlack), 60);
+    EXPECT_FALSE(other == outline);
+}
+
+TEST_F(TwoContexts, AFontSelectedWhileTheOtherIsCurrentShowsOnBoth) {
+    second.Start();
+    first.gl.SetFontIndex(5);
+    EXPECT_GT(DrawOnSecond().CountOther(kBlack), 100);
+    first.gl.Start();
+    CZvDispText text;
+    MakeText(text, "H", 10, 10, 20);
+    EXPECT_GT(first.Draw(text).CountOther(kBlack), 100);
+    EXPECT_TRUE(first.Messages().GetShown().empty());
+}
+
+TEST_F(TwoContexts, OneThatCannotMakeTheFontSaysSoOnceAndKeepsToStrokes) {
+    const auto strokes = DrawOnSecond();
+    first.gl.Start();
+    first.gl.SetFontIndex(5);
+    FailNextWgl(WglStep::UseFontOutlines, 1);
+    EXPECT_EQ(DrawOnSecond(), strokes);
+    EXPECT_EQ(DrawOnSecond(), strokes);
+    ASSERT_EQ(first.Messages().GetShown().size(), 1u);
+    EXPECT_EQ(first.Messages().GetShown()[0].text, "Unable to use true type Font");
+}
+
+TEST(ZvDispGLFonts, AFaceThatFailsLeavesTheFormerFont) {
+    GlMap map;
+    map.gl.SetFontIndex(5);
+    CZvDispText text;
+    MakeText(text, "Hg", 5, 20, 20);
+    const auto arial = map.Draw(text);
+    EXPECT_GT(arial.CountOther(kBlack), 100);
+    FailNextWgl(WglStep::UseFontOutlines, 1);
+    map.gl.SetFontIndex(1);
+    EXPECT_EQ(map.Messages().GetShown().size(), 1u);
+    EXPECT_EQ(map.Draw(text), arial);
+    text.SetPickID(10001);
+    map.gl.DrawDispItem(&text);
+    EXPECT_EQ(map.Redraw({10001}), arial);
+    EXPECT_GT(map.CallLists({10001}).CountOther(kBlack), 100);
+    EXPECT_EQ(map.Messages().GetShown().size(), 1u);
+}
+
 } // namespace
 } // namespace zv::testing
