@@ -3,6 +3,7 @@
 #include <CLI/CLI.hpp>
 
 #include "platform/Numbers.h"
+#include "platform/zvcom/ZvColor.h"
 
 namespace zv::host {
 namespace {
@@ -21,6 +22,17 @@ std::pair<int, int> ParseSize(const std::string& text) {
     if (size.first < 16 || size.second < 16 || size.first > 16384 || size.second > 16384)
         throw CLI::ValidationError("--size", "must be from 16 to 16384 pixels each way");
     return size;
+}
+
+/// Number or name of a colour of the palette.
+int ParseColour(const std::string& text) {
+    const bool number = !text.empty() && text.size() <= 3 &&
+                        text.find_first_not_of("0123456789") == std::string::npos;
+    const int index = number ? ParseInt(text) : CZvColor::S_Find(text);
+    if (index < 0 || index > 255)
+        throw CLI::ValidationError("--background",
+                                   "must be 0 to 255 or the name of a palette's colour");
+    return index;
 }
 
 void AddCommon(CLI::App& verb, CommonOptions& options) {
@@ -52,8 +64,10 @@ void AddRender(CLI::App& app, RenderOptions& options) {
     verb->add_option("--uset", options.uset, "Only this user set");
     verb->add_option("--culture", options.culture, "Only this culture");
     verb->add_option("--font", options.font, "stroke, or the name of an outline face");
-    verb->add_option("--background", options.background, "Background colour")
-        ->check(CLI::Range(0, 255));
+    verb->add_option_function<std::string>(
+        "--background",
+        [&options](const std::string& text) { options.background = ParseColour(text); },
+        "Background colour, 0 to 255 or its name");
     verb->add_option("--background-brightness", options.backgroundBrightness,
                      "0 (full) to 9 (a tenth)")
         ->check(CLI::Range(0, 9));
@@ -110,6 +124,7 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
     CommandLine line;
     CLI::App app("zvdisp: draws and inspects maps of oil and gas exploration", "zvdisp");
     app.require_subcommand(1);
+    app.set_version_flag("--version", "zvdisp " ZVDISP_VERSION);
     AddRender(app, line.render);
     AddInfo(app, line.info);
     AddSymbols(app, line.symbols);
@@ -118,6 +133,8 @@ CommandLine ParseCommandLine(int argc, const char* const* argv) {
     } catch (const CLI::CallForHelp&) {
         const auto chosen = app.get_subcommands();
         throw ExitRequest{chosen.empty() ? app.help() : chosen.front()->help()};
+    } catch (const CLI::CallForVersion& version) {
+        throw ExitRequest{std::string(version.what()) + "\n"};
     } catch (const CLI::ParseError& fault) {
         const std::string verb = argc > 1 && argv[1][0] != '-' ? argv[1] : "";
         if (verb.empty() || IsVerb(app, verb)) throw UsageError(FirstLine(fault.what()));

@@ -41,7 +41,7 @@ struct InfoOptions {
 
 struct SymbolsOptions {
     CommonOptions common;
-    std::string output;
+    std::optional<std::string> output;
 };
 
 /// What the command line asks for.
@@ -64,7 +64,7 @@ struct UsageError : std::exception {
     std::string m_text;
 };
 
-/// Thrown when the answer is a text (help) and nothing else is to be done.
+/// Thrown when the answer is a text (help, version) and nothing else is to be done.
 struct ExitRequest {
     std::string text;
 };

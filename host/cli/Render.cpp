@@ -1,9 +1,11 @@
 #include <algorithm>
 #include <cmath>
 
+#include "cli/Output.h"
 #include "cli/Picture.h"
 #include "cli/ReportJson.h"
 #include "cli/Scratch.h"
+#include "cli/Selection.h"
 #include "cli/Verbs.h"
 #include "map/ZvDispMap.h"
 #include "platform/Error.h"
@@ -24,14 +26,16 @@ std::pair<int, int> SizeFor(const std::array<double, 4>& view) {
     return {pixels(width), pixels(height)};
 }
 
-std::array<double, 4> ViewOf(const RenderOptions& options, const MapDocument& document) {
-    if (options.view.empty()) return document.Page();
-    const std::array<double, 4> view{options.view[0], options.view[1], options.view[2],
-                                     options.view[3]};
+void CheckView(const std::vector<double>& view) {
+    if (view.empty()) return;
     if (!(view[0] < view[2] && view[1] < view[3]) || !std::isfinite(view[2] - view[0]) ||
         !std::isfinite(view[3] - view[1]))
         throw DataError("--view", "", "must be x1,y1,x2,y2 with x1 below x2 and y1 below y2");
-    return view;
+}
+
+std::array<double, 4> ViewOf(const RenderOptions& options, const MapDocument& document) {
+    const std::vector<double>& view = options.view;
+    return view.empty() ? document.Page() : std::array{view[0], view[1], view[2], view[3]};
 }
 
 PictureStyle StyleOf(const RenderOptions& options, const MapDocument& document) {
@@ -51,40 +55,11 @@ PictureStyle StyleOf(const RenderOptions& options, const MapDocument& document) 
     return style;
 }
 
-/// Leaves only the wanted layers in the order by which the map draws, each at its place.
-void KeepLayers(CZvDispMap& map, const std::vector<int>& layers) {
-    if (layers.empty()) return;
-    CZvDispOrder& order = *map.GetDispOrder();
-    std::vector<E_Layer> kept;
-    for (E_Layer layer = order.GetFirstLayer(); !order.IsEndOfList(); layer = order.GetNextLayer())
-        if (std::find(layers.begin(), layers.end(), layer) != layers.end()) kept.push_back(layer);
-    for (const int layer : layers)
-        if (std::find(kept.begin(), kept.end(), layer) == kept.end())
-            kept.push_back(E_Layer(layer));
-    order.ClearLayerOrderMap();
-    for (const E_Layer layer : kept)
-        order.AddLayer(layer);
-}
-
-/// Hides every culture list but those of one culture.
-void KeepCulture(CZvDispMap& map, int culture) {
-    for (const int layer : map.GetLayerList()) {
-        std::vector<int> posts;
-        map.GetPostList(E_Layer(layer), posts);
-        for (const int post : posts)
-            for (const int uset : map.GetUSetList(E_Layer(layer), post))
-                for (const int one : map.GetCultureList(E_Layer(layer), post, uset))
-                    if (one != culture)
-                        map.GetDispLayer(E_Layer(layer))
-                            ->SetVisibility(false, post, uset, ZVCulture(one));
-    }
-}
-
 std::string ResultJson(const RenderOptions& options, const PictureStyle& style,
                        const LoadReport& report) {
     nlohmann::ordered_json json{
         {"output", options.output},      {"width", style.width},
-        {"height", style.height},        {"items", report.Items()},
+        {"height", style.height},        {"loaded", report.Items()},
         {"labels", report.labels},       {"hiddenLabels", report.hiddenLabels},
         {"sources", SourcesJson(report)}};
     return JsonText(json);
@@ -93,16 +68,24 @@ std::string ResultJson(const RenderOptions& options, const PictureStyle& style,
 std::string ResultText(const RenderOptions& options, const PictureStyle& style,
                        const LoadReport& report) {
     std::string text = options.output + ": " + FormatInt(style.width) + " x " +
-                       FormatInt(style.height) + " pixels, " + FormatInt(report.Items()) + " items";
-    if (report.Rejected() > 0) text += ", " + FormatInt(report.Rejected()) + " rows rejected";
+                       FormatInt(style.height) + " pixels, " + FormatInt(report.Items()) +
+                       " items loaded";
+    if (const long long none = report.Rejected(); none > 0)
+        text += ", " + FormatInt(none) + (none == 1 ? " row" : " rows") + " gave no item";
+    if (report.Fewer() > 0) text += ", " + FormatInt(report.Fewer()) + " gave less than asked";
     return text + "\n";
 }
 
-/// What a run would write, after all that can be known without writing has been checked.
+/// All that can be known to be wrong before anything is loaded.
+void CheckBefore(const RenderOptions& options) {
+    CheckOutput(options.output, InputsOf(options.map, options.data));
+    CheckView(options.view);
+    const bool own = options.font.empty() && KindOf(options.map) == MapKind::Project;
+    FontIndex(own ? ReadProject(options.map).view.font
+                  : (options.font.empty() ? PictureStyle().font : options.font));
+}
+
 void ListOutput(const RenderOptions& options) {
-    if (KindOf(options.map) == MapKind::Project)
-        CheckFiles(ReadProject(options.map), options.map, options.data);
-    if (!options.font.empty()) FontIndex(options.font);
     PutOut(options.common.json ? JsonText({{"writes", nlohmann::json::array({options.output})}})
                                : options.output + "\n");
 }
@@ -110,13 +93,14 @@ void ListOutput(const RenderOptions& options) {
 } // namespace
 
 void Render(const RenderOptions& options) {
+    CheckBefore(options);
     if (options.common.dryRun) return ListOutput(options);
     const Scratch scratch;
     const auto document = OpenMap(options.map, options.data, scratch.Name(), options.common.quiet);
     const PictureStyle style = StyleOf(options, *document);
     TellRejected(document->Report(), options.common.quiet);
-    KeepLayers(document->Map(), options.layers);
-    if (options.culture) KeepCulture(document->Map(), *options.culture);
+    CheckChosen(document->Map(), options);
+    KeepChosen(document->Map(), options);
     Picture picture(style);
     picture.Draw(document->Map());
     picture.Save(options.output);

@@ -9,9 +9,11 @@ nlohmann::ordered_json SourcesJson(const LoadReport& report) {
                                    {"rows", source.rows},
                                    {"filtered", source.filtered},
                                    {"items", source.items},
-                                   {"rejected", nlohmann::ordered_json::object()}};
-        for (const auto& [reason, count] : source.rejected)
-            one["rejected"][reason] = count;
+                                   {"rejected", source.rejected},
+                                   {"fewer", source.fewer},
+                                   {"reasons", nlohmann::ordered_json::object()}};
+        for (const auto& [reason, count] : source.reasons)
+            one["reasons"][reason] = count;
         list.push_back(std::move(one));
     }
     return list;

@@ -13,12 +13,17 @@ namespace {
 
 namespace fs = std::filesystem;
 
+bool IsIgnored(int number) {
+    struct sigaction action {};
+    return sigaction(number, nullptr, &action) == 0 && action.sa_handler == SIG_IGN;
+}
+
+/// The signals that end this process: one that its starter had it ignore does not.
 sigset_t EndingSignals() {
     sigset_t set;
     sigemptyset(&set);
-    sigaddset(&set, SIGINT);
-    sigaddset(&set, SIGTERM);
-    sigaddset(&set, SIGHUP);
+    for (const int number : {SIGINT, SIGTERM, SIGHUP})
+        if (!IsIgnored(number)) sigaddset(&set, number);
     return set;
 }
 
@@ -41,16 +46,20 @@ fs::path MakeUnique(const fs::path& parent) {
 } // namespace
 
 Scratch::Scratch() {
+    const sigset_t ending = EndingSignals();
+    pthread_sigmask(SIG_BLOCK, &ending, nullptr);
     if (!MakeIn(WorkFolder())) MakeInTemporaries();
-    Watch();
+    Watch(ending);
 }
 
 void Scratch::MakeInTemporaries() {
     std::error_code fault;
     const fs::path temporaries = fs::temp_directory_path(fault);
     m_ownWork = MakeUnique(temporaries);
-    if (m_ownWork.empty() || !MakeIn(m_ownWork))
+    if (m_ownWork.empty() || !MakeIn(m_ownWork)) {
+        RemoveQuietly(m_ownWork);
         throw DataError(temporaries.string(), "", "no folder for scratch files can be made");
+    }
     CZvUtRegistry::S_Override(CZvUtRegistry::S_GetWorkPath(), CZvUtRegistry::S_GetWorkKey(),
                               m_ownWork.string());
 }
@@ -69,9 +78,7 @@ bool Scratch::MakeIn(const fs::path& parent) {
 
 /// The signals that end a process wait for a thread of their own, which may do what a handler may
 /// not: remove the folders, then end the process the way the signal would have.
-void Scratch::Watch() const {
-    sigset_t set = EndingSignals();
-    pthread_sigmask(SIG_BLOCK, &set, nullptr);
+void Scratch::Watch(const sigset_t& set) const {
     std::thread([folder = m_folder, work = m_ownWork, set] {
         int number = 0;
         if (sigwait(&set, &number) != 0) return;

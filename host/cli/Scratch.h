@@ -1,5 +1,6 @@
 #pragma once
 
+#include <csignal>
 #include <filesystem>
 #include <string>
 
@@ -8,6 +9,7 @@ namespace zv::host {
 /// A folder for the scratch files of this process, private to its user: below the work folder, or,
 /// where that cannot be written, below a work folder of its own in the folder for temporary files.
 /// It is removed with this object, and when the process is interrupted or terminated.
+/// Signals that the process was started to ignore stay ignored.
 ///
 /// One at a time in a process. REQUIRES: made before any other thread starts, so that all of them
 /// leave the signals to this object's.
@@ -26,7 +28,7 @@ class Scratch {
   private:
     bool MakeIn(const std::filesystem::path& parent);
     void MakeInTemporaries();
-    void Watch() const;
+    void Watch(const sigset_t& ending) const;
 
     std::string m_name;
     std::filesystem::path m_folder;

@@ -1,5 +1,6 @@
 #include <algorithm>
 
+#include "cli/Output.h"
 #include "cli/Picture.h"
 #include "cli/ReportJson.h"
 #include "cli/Scratch.h"
@@ -124,15 +125,21 @@ std::string ListJson(const std::vector<int>& numbers) {
     return JsonText(json);
 }
 
+/// What a run would write.
+void ListOutput(const SymbolsOptions& options) {
+    auto files = nlohmann::ordered_json::array();
+    if (options.output) files.push_back(*options.output);
+    if (options.common.json) return PutOut(JsonText({{"writes", files}}));
+    if (options.output) PutOut(*options.output + "\n");
+}
+
 } // namespace
 
 void Symbols(const SymbolsOptions& options) {
-    if (options.common.dryRun) {
-        if (!options.output.empty()) PutOut(options.output + "\n");
-        return;
-    }
+    if (options.output) CheckOutput(*options.output, {});
+    if (options.common.dryRun) return ListOutput(options);
     const std::vector<int> numbers = Numbers();
-    if (!options.output.empty()) Draw(numbers, options.output);
+    if (options.output) Draw(numbers, *options.output);
     PutOut(options.common.json ? ListJson(numbers) : ListText(numbers));
 }
 

@@ -9,6 +9,24 @@
 
 namespace zv::host {
 
+namespace {
+
+constexpr std::size_t kMaxReasons = 20; ///< told of one source
+
+void Tell(const SourceReport& source) {
+    std::size_t told = 0;
+    for (const auto& [reason, count] : source.reasons) {
+        if (++told > kMaxReasons) break;
+        std::fprintf(stderr, "zvdisp: %s: %lld of %lld rows: %s\n", source.name.c_str(), count,
+                     source.rows, reason.c_str());
+    }
+    if (source.reasons.size() > kMaxReasons)
+        std::fprintf(stderr, "zvdisp: %s: and %zu reasons more\n", source.name.c_str(),
+                     source.reasons.size() - kMaxReasons);
+}
+
+} // namespace
+
 void SetLog(bool quiet) {
     CZvLog::S_SetConsole(!quiet);
 }
@@ -16,9 +34,7 @@ void SetLog(bool quiet) {
 void TellRejected(const LoadReport& report, bool quiet) {
     if (quiet) return;
     for (const SourceReport& source : report.sources)
-        for (const auto& [reason, count] : source.rejected)
-            std::fprintf(stderr, "zvdisp: %s: %lld of %lld rows: %s\n", source.name.c_str(), count,
-                         source.rows, reason.c_str());
+        Tell(source);
 }
 
 void PutOut(const std::string& text) {

@@ -14,7 +14,8 @@ void Symbols(const SymbolsOptions& options);
 /// Sends the log to standard error, or nowhere.
 void SetLog(bool quiet);
 
-/// Prints on standard error how many rows of each source were rejected, by reason.
+/// Prints on standard error how many rows of each source gave nothing, or less
+/// than asked, by reason.
 void TellRejected(const LoadReport& report, bool quiet);
 
 /// Puts a text out on standard output. Throws DataError when that cannot be written.

@@ -5,6 +5,7 @@
 #include <set>
 
 #include "data/Extents.h"
+#include "data/build/SymbolCheck.h"
 #include "data/furniture/FurnitureBuilder.h"
 #include "platform/Error.h"
 #include "platform/Numbers.h"
@@ -54,6 +55,7 @@ void MapDocument::OpenProject(const OpenRequest& request) {
     const std::string own = DataFolder(request.path, "");
     LoadSettings(own, request.path);
     LoadSymbols(own);
+    CheckSymbols(m_project, request.path);
     m_frame = MapFrame(m_project, request.path);
     m_bounds = m_frame.Bounds();
     m_map.SetMapBoundPtr(&m_bounds);

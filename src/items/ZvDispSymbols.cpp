@@ -137,6 +137,12 @@ std::list<int>* CZvDispSymbols::S_GetSymbolNumList() {
     return &CZvDispSymbolTable::Get().Numbers();
 }
 
+bool CZvDispSymbols::S_FindSymbolNum(const std::string& name, int& number) {
+    const std::optional<int> found = CZvDispSymbolMap::Get().Find(name);
+    if (found) number = *found;
+    return found.has_value();
+}
+
 bool CZvDispSymbols::S_GetSymDesc(int number, std::string& description) {
     const std::string* found = CZvDispSymbolTable::Get().Description(number);
     if (!found) return false;

@@ -70,6 +70,9 @@ class ZVDISP_API CZvDispSymbols : public CZvDisplayItem {
     static std::list<CZvDisplayItem*>* S_GetVtxpItemList(int number);
     /// Every loaded number, in order of loading.
     static std::list<int>* S_GetSymbolNumList();
+    /// Number of a symbol's name, as it stands; false, and the number as it was, for an unknown
+    /// name.
+    static bool S_FindSymbolNum(const std::string& name, int& number);
     static bool S_GetSymDesc(int number, std::string& description);
     /// First number from `from` to `to` that is not loaded; -1 when there is none.
     static int S_GetNextAvailableSymbolNum(int from, int to);

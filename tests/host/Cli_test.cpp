@@ -4,9 +4,11 @@
 #include <sys/wait.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <array>
 #include <csignal>
 #include <cstdio>
+#include <cstdlib>
 #include <filesystem>
 #include <map>
 #include <nlohmann/json.hpp>
@@ -103,7 +105,7 @@ TEST_F(CliTest, RendersTheSampleMap) {
     const Outcome outcome = Run("render '" + kGulf + "' -o '" + (folder / "g.png") + "'");
     EXPECT_EQ(outcome.code, 0) << outcome.err;
     EXPECT_EQ(outcome.err, "");
-    EXPECT_EQ(outcome.out, (folder / "g.png") + ": 2400 x 1460 pixels, 734 items\n");
+    EXPECT_EQ(outcome.out, (folder / "g.png") + ": 2400 x 1460 pixels, 734 items loaded\n");
     const Image image = ReadPng(folder / "g.png");
     ASSERT_EQ(image.width, 2400);
     ASSERT_EQ(image.height, 1460);
@@ -142,23 +144,42 @@ TEST_F(CliTest, DrawsOnlyTheCultureThatIsAskedFor) {
     EXPECT_GT(image.Share(kSea), 0.97);
 }
 
-TEST_F(CliTest, APostOrUserSetThatIsNotThereDrawsNothing) {
-    for (const char* option : {"--post 2", "--uset 7"}) {
-        ASSERT_EQ(Run("render '" + kGulf + "' " + option + " -o '" + (folder / "p.png") +
-                      "' --size 300x200")
-                      .code,
-                  0);
-        EXPECT_EQ(ReadPng(folder / "p.png").Share(kSea), 1.0);
+TEST_F(CliTest, ANumberThatMatchesNothingOfTheMapIsRefusedWithWhatThereIs) {
+    const std::pair<std::string, std::string> cases[] = {
+        {"--layer 6 --layer 1", "zvdisp: --layer: there is no 1; the map has 2, 3, 4, 6, 10, 15, "
+                                "16, 17, 18, 21, 25, 31, 66\n"},
+        {"--post 2", "zvdisp: --post: there is no 2; the map has 1\n"},
+        {"--uset 7", "zvdisp: --uset: there is no 7; the map has 1\n"},
+        {"--layer 6 --culture 220", "zvdisp: --culture: there is no 220; the map has 30, 31\n"},
+    };
+    for (const auto& [option, error] : cases) {
+        const Outcome outcome =
+            Run("render '" + kGulf + "' " + option + " -o '" + (folder / "p.png") + "'");
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_EQ(outcome.err, error);
+        EXPECT_FALSE(fs::exists(folder / "p.png"));
     }
+    EXPECT_EQ(ScratchFolders(), 0u);
 }
 
 TEST_F(CliTest, BackgroundAndItsBrightnessComeFromTheCommandLine) {
     const std::string base =
-        "render '" + kGulf + "' --post 2 --size 64x64 -o '" + (folder / "b.png");
+        "render '" + kGulf + "' --layer 16 --size 64x64 -o '" + (folder / "b.png");
     ASSERT_EQ(Run(base + "' --background 0").code, 0);
     EXPECT_EQ(ReadPng(folder / "b.png").At(5, 5), kBlack);
     ASSERT_EQ(Run(base + "' --background 8 --background-brightness 5").code, 0);
     EXPECT_NEAR(ReadPng(folder / "b.png").At(5, 5)[0], 255 * 0.5, 1.0);
+}
+
+TEST_F(CliTest, BackgroundTakesTheNamesOfThePalette) {
+    const std::string base =
+        "render '" + kGulf + "' --layer 16 --size 64x64 -o '" + (folder / "n.png");
+    ASSERT_EQ(Run(base + "' --background cream").code, 0);
+    EXPECT_EQ(ReadPng(folder / "n.png").At(5, 5), kPaper);
+    const Outcome outcome = Run(base + "' --background nosuch");
+    EXPECT_EQ(outcome.code, 2);
+    EXPECT_EQ(outcome.err, "zvdisp: --background: must be 0 to 255 or the name of a palette's "
+                           "colour\n");
 }
 
 TEST_F(CliTest, FillBrightnessIsTheOpacityOfFills) {
@@ -194,7 +215,7 @@ TEST_F(CliTest, ResultsCanBeJson) {
         Run("render '" + kGulf + "' --json --size 64x64 -o '" + (folder / "j.png") + "'");
     const json result = json::parse(outcome.out);
     EXPECT_EQ(result["output"], folder / "j.png");
-    EXPECT_EQ(result["items"], 734);
+    EXPECT_EQ(result["loaded"], 734);
     EXPECT_EQ(result["sources"].size(), 12u);
 }
 
@@ -309,7 +330,7 @@ TEST_F(CliTest, AFolderThatIsNotThereLeavesNothing) {
     const Outcome outcome = Run("render '" + kGulf + "' -o '" + (folder / "gone/x.png") + "'");
     EXPECT_EQ(outcome.code, 1);
     EXPECT_NE(outcome.err.find("gone/x.png"), std::string::npos);
-    EXPECT_EQ(ScratchFolders(), 0u);
+    EXPECT_FALSE(fs::exists(folder / "work")); // nothing was loaded
 }
 
 TEST_F(CliTest, WorksInTheFolderForTemporariesWhereTheWorkFolderCannotBeMade) {
@@ -326,27 +347,170 @@ TEST_F(CliTest, HelpIsNoError) {
     EXPECT_NE(outcome.out.find("render"), std::string::npos);
 }
 
-/// Starts the program on a source that never ends, so that a signal meets it at work.
-TEST_F(CliTest, AnInterruptedRunRemovesItsScratchFolder) {
-    ASSERT_EQ(mkfifo((folder / "pipe.sps").c_str(), 0600), 0);
-    WriteText(folder.Path() / "wait.json",
-              R"({"units": "feet", "scale": 1, "bounds": {"xy": [0, 0, 1, 1]}, "sources": [
+/// A run on a source that never ends, so that a signal meets it at work.
+class InterruptedCliTest : public CliTest {
+  protected:
+    InterruptedCliTest() {
+        mkfifo((folder / "pipe.sps").c_str(), 0600);
+        WriteText(folder.Path() / "wait.json",
+                  R"({"units": "feet", "scale": 1, "bounds": {"xy": [0, 0, 1, 1]}, "sources": [
                   {"file": "pipe.sps", "format": "sps", "items": []}]})");
-    const pid_t child = fork();
-    if (child == 0) {
-        setenv("ZVDISP_WORK", (folder / "work").c_str(), 1);
-        execl(kProgram.c_str(), "zvdisp", "info", (folder / "wait.json").c_str(), nullptr);
-        _exit(99);
     }
-    for (int i = 0; i < 200 && (!fs::exists(folder / "work") || ScratchFolders() == 0); ++i)
-        usleep(50000);
-    EXPECT_EQ(ScratchFolders(), 1u);
-    kill(child, SIGTERM);
-    int status = 0;
-    waitpid(child, &status, 0);
-    EXPECT_TRUE(WIFSIGNALED(status));
-    EXPECT_EQ(WTERMSIG(status), SIGTERM);
+
+    /// Starts the program with a signal as it is to find it.
+    pid_t Start(int number, void (*disposition)(int)) {
+        const pid_t child = fork();
+        if (child == 0) {
+            setenv("ZVDISP_WORK", (folder / "work").c_str(), 1);
+            std::signal(number, disposition);
+            execl(kProgram.c_str(), "zvdisp", "info", (folder / "wait.json").c_str(), nullptr);
+            _exit(99);
+        }
+        for (int i = 0; i < 200 && (!fs::exists(folder / "work") || ScratchFolders() == 0); ++i)
+            usleep(50000);
+        EXPECT_EQ(ScratchFolders(), 1u);
+        return child;
+    }
+
+    /// The signal that ended it.
+    static int EndOf(pid_t child) {
+        int status = 0;
+        waitpid(child, &status, 0);
+        return WIFSIGNALED(status) ? WTERMSIG(status) : 0;
+    }
+};
+
+TEST_F(InterruptedCliTest, AnInterruptedRunRemovesItsScratchFolder) {
+    for (const int number : {SIGTERM, SIGINT, SIGHUP}) {
+        const pid_t child = Start(number, SIG_DFL);
+        kill(child, number);
+        EXPECT_EQ(EndOf(child), number);
+        EXPECT_EQ(ScratchFolders(), 0u);
+    }
+}
+
+TEST_F(InterruptedCliTest, ASignalThatItsStarterHadIgnoredDoesNotEndARun) {
+    for (const int number : {SIGHUP, SIGINT}) {
+        const pid_t child = Start(number, SIG_IGN);
+        kill(child, number);
+        usleep(200000);
+        EXPECT_EQ(waitpid(child, nullptr, WNOHANG), 0) << "the run has ended";
+        EXPECT_EQ(ScratchFolders(), 1u);
+        kill(child, SIGTERM);
+        EXPECT_EQ(EndOf(child), SIGTERM);
+        EXPECT_EQ(ScratchFolders(), 0u);
+    }
+}
+
+TEST_F(CliTest, AClosedStandardOutputIsAnError) {
+    for (const std::string verb : {"info '" + kGulf + "'", std::string("--help")}) {
+        const std::string command = "( sleep 0.2; env ZVDISP_WORK='" + (folder / "work") + "' '" +
+                                    kProgram + "' " + verb + " 2>'" + (folder / "err") +
+                                    "'; echo $? >'" + (folder / "code") + "' ) | true; while [ ! " +
+                                    "-s '" + (folder / "code") + "' ]; do sleep 0.05; done";
+        ASSERT_EQ(std::system(command.c_str()), 0);
+        EXPECT_EQ(ReadText(folder / "code"), "1\n");
+        EXPECT_EQ(ReadText(folder / "err"), "zvdisp: standard output: cannot be written\n");
+        fs::remove(folder.Path() / "code");
+    }
     EXPECT_EQ(ScratchFolders(), 0u);
+}
+
+TEST_F(CliTest, ADrawingSurfaceThatCannotBeMadeIsAnErrorOfOneLine) {
+    const Outcome outcome =
+        Run("render '" + kGulf + "' --size 16384x16384 -o '" + (folder / "x.png") + "'");
+    if (outcome.code == 0) GTEST_SKIP() << "a surface of this size can be made here";
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_TRUE(outcome.err.starts_with("zvdisp: drawing surface: cannot be made; a smaller --size "
+                                        "may help"))
+        << outcome.err;
+    EXPECT_EQ(outcome.err.find('\n'), outcome.err.size() - 1);
+    EXPECT_FALSE(fs::exists(folder / "x.png"));
+    EXPECT_EQ(ScratchFolders(), 0u);
+}
+
+TEST_F(CliTest, APictureIsNotWrittenOverWhatItsMapReads) {
+    WriteText(folder.Path() / "w.csv", "X,Y\n1,1\n");
+    WriteText(folder.Path() / "m.json",
+              R"({"units": "feet", "scale": 1, "bounds": {"xy": [0, 0, 1, 1]}, "sources": [
+                  {"file": "w.csv", "position": ["X", "Y"], "items": []}]})");
+    fs::create_symlink("w.csv", folder.Path() / "link.png");
+    const std::string map = "render '" + (folder / "m.json") + "' -o '";
+    for (const std::string name : {"m.json", "w.csv", "link.png"}) {
+        const std::string before = ReadText(folder / name);
+        for (const std::string more : {"", " --dry-run"}) {
+            const Outcome outcome = Run(map + (folder / name) + "'" + more);
+            EXPECT_EQ(outcome.code, 1);
+            EXPECT_EQ(outcome.err, "zvdisp: " + (folder / name) +
+                                       ": is read by this map, so no picture is written over it\n");
+            EXPECT_EQ(ReadText(folder / name), before);
+        }
+    }
+}
+
+TEST_F(CliTest, TheSourcesArchiveIsNotWrittenOver) {
+    WriteText(folder.Path() / "a.zip", "PK");
+    WriteText(folder.Path() / "m.json",
+              R"({"units": "feet", "scale": 1, "bounds": {"xy": [0, 0, 1, 1]}, "sources": [
+                  {"archive": "a.zip", "member": "w.csv", "position": ["X", "Y"], "items": []}]})");
+    const Outcome outcome =
+        Run("render '" + (folder / "m.json") + "' --dry-run -o '" + (folder / "a.zip") + "'");
+    EXPECT_EQ(outcome.code, 1);
+    EXPECT_NE(outcome.err.find("is read by this map"), std::string::npos) << outcome.err;
+}
+
+TEST_F(CliTest, AnOutputThatIsNoPngIsRefused) {
+    for (const std::string name : {"", "x.jpg", "x", ".png"}) {
+        for (const std::string verb : {"render '" + kGulf + "'", std::string("symbols")}) {
+            const Outcome outcome = Run(verb + " --dry-run -o '" + name + "'");
+            EXPECT_EQ(outcome.code, 1);
+            EXPECT_EQ(outcome.err, "zvdisp: --output: \"" + name + "\" does not end in .png\n");
+        }
+    }
+}
+
+TEST_F(CliTest, ADryRunFindsWhatARunWouldRefuse) {
+    const std::string base = "render '" + kGulf + "' --dry-run -o '";
+    const std::pair<std::string, std::string> cases[] = {
+        {base + (folder / "gone/x.png") + "'", "its folder cannot be found"},
+        {base + (folder / "x.png") + "' --font Comic", "must be one of Stroke"},
+        {base + (folder / "x.png") + "' --view 5,0,1,9", "--view: must be x1,y1,x2,y2"},
+    };
+    for (const auto& [arguments, error] : cases) {
+        const Outcome outcome = Run(arguments);
+        EXPECT_EQ(outcome.code, 1);
+        EXPECT_NE(outcome.err.find(error), std::string::npos) << outcome.err;
+        EXPECT_FALSE(fs::exists(folder / "work")); // nothing was loaded
+    }
+}
+
+TEST_F(CliTest, ADryRunOfTheSymbolsCanBeJson) {
+    const Outcome outcome = Run("symbols --dry-run --json -o '" + (folder / "s.png") + "'");
+    EXPECT_EQ(json::parse(outcome.out), (json{{"writes", {folder / "s.png"}}}));
+    EXPECT_EQ(json::parse(Run("symbols --json --dry-run").out)["writes"], json::array());
+    EXPECT_FALSE(fs::exists(folder / "s.png"));
+}
+
+TEST_F(CliTest, TellsHowManyRowsGaveNothingOrLess) {
+    WriteText(folder.Path() / "w.csv", "X,Y,U,V\n1,1,2,2\n1,1,,\n,,,\n1,1,*,*\n");
+    WriteText(folder.Path() / "m.json",
+              R"({"units": "feet", "scale": 1, "bounds": {"xy": [0, 0, 9, 9]}, "sources": [
+                  {"file": "w.csv", "position": ["X", "Y"], "items": [
+                   {"kind": "symbol", "layer": 25, "culture": 220, "symbol": 56},
+                   {"kind": "line", "layer": 25, "culture": 231,
+                    "path": [["X", "Y"], ["U", "V"]]}]}]})");
+    const Outcome outcome =
+        Run("render '" + (folder / "m.json") + "' --size 64x64 -o '" + (folder / "r.png") + "'");
+    EXPECT_EQ(outcome.code, 0) << outcome.err;
+    EXPECT_EQ(outcome.out, (folder / "r.png") + ": 64 x 64 pixels, 4 items loaded, 1 row gave no "
+                                                "item, 2 gave less than asked\n");
+}
+
+TEST_F(CliTest, TellsItsVersion) {
+    const Outcome outcome = Run("--version");
+    EXPECT_EQ(outcome.code, 0);
+    EXPECT_TRUE(outcome.out.starts_with("zvdisp ")) << outcome.out;
+    EXPECT_GE(std::count(outcome.out.begin(), outcome.out.end(), '.'), 2);
 }
 
 TEST_F(CliTest, TheRealDataGiveTheirCounts) {
@@ -362,7 +526,11 @@ TEST_F(CliTest, TheRealDataGiveTheirCounts) {
     for (const json& source : tree["sources"]) {
         if (source["name"] == "boreholes") {
             EXPECT_EQ(source["rows"], 57219);
-            EXPECT_EQ(source["rejected"]["no position"], 2);
+            EXPECT_EQ(source["rejected"], 2); // without a surface position
+            EXPECT_EQ(source["fewer"], 901);
+            EXPECT_EQ(source["reasons"]["no position (BOTM_LONGITUDE, BOTM_LATITUDE)"], 386);
+            EXPECT_EQ(source["reasons"]["position is no number (BOTM_LONGITUDE, BOTM_LATITUDE)"],
+                      515); // starred
         }
         if (source["name"] == "leases") {
             EXPECT_EQ(source["rows"], 2591);

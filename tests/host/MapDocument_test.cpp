@@ -56,9 +56,10 @@ TEST_F(MapDocumentTest, MakesOneItemOfEachRowAndCountsTheBadOnes) {
     EXPECT_EQ(report.name, "wells");
     EXPECT_EQ(report.rows, 4);
     EXPECT_EQ(report.items, 4);
-    EXPECT_EQ(report.rejected,
+    EXPECT_EQ(report.reasons,
               (std::map<std::string, long long>{{"no position", 1}, {"position is no number", 1}}));
-    EXPECT_EQ(report.Rejected(), 2);
+    EXPECT_EQ(report.rejected, 2);
+    EXPECT_EQ(report.fewer, 0);
 }
 
 TEST_F(MapDocumentTest, AWellIsFoundByItsApiNumber) {
@@ -76,25 +77,98 @@ TEST_F(MapDocumentTest, AWellIsFoundByItsApiNumber) {
 }
 
 TEST_F(MapDocumentTest, AttributesChooseSymbolAndColour) {
-    Put("w.csv", "X,Y,T,S\n1,2,D,PA\n1,2,D,??\n1,2,,\n");
+    Put("w.csv", "X,Y,T,S\n1,2,D,PA\n1,2,UNK,NWN\n1,2,,N\n");
     const auto document = Open(R"({"file": "w.csv", "position": ["X", "Y"], "items": [
-        {"kind": "symbol", "layer": 25, "culture": 220, "symbol": {"by": "{T}-{S}"},
-         "colour": {"by": "{S}", "table": {"PA": 7}, "default": 5}},
+        {"kind": "symbol", "layer": 25, "culture": 220, "symbol": {"by": "{T}{S}"},
+         "where": {"T": ["UNK", ""]},
+         "colour": {"by": "{S}", "table": {"N": 7}, "default": 5}},
         {"kind": "symbol", "layer": 25, "culture": 221,
          "symbol": {"by": "{T}", "table": {"D": 701}, "default": 42}}]})");
-    std::vector<int> named, tabled, colours;
-    for (const unsigned id : {10001u, 10003u, 10005u}) {
+    const auto symbol = [&](int culture, unsigned id) {
         const std::unique_ptr<CZvDisplayItem> item(
-            document->Map().GetItem(E_LAYER_WELLS, 1, 1, ZVCulture(220), id));
-        named.push_back(dynamic_cast<CZvDispSymbols&>(*item).GetSymbolNum());
-        colours.push_back(item->GetColor());
-        const std::unique_ptr<CZvDisplayItem> other(
-            document->Map().GetItem(E_LAYER_WELLS, 1, 1, ZVCulture(221), id + 1));
-        tabled.push_back(dynamic_cast<CZvDispSymbols&>(*other).GetSymbolNum());
-    }
-    EXPECT_EQ(named, (std::vector<int>{6, 68, 68})); // 68 stands for a name without a symbol
-    EXPECT_EQ(colours, (std::vector<int>{7, 5, 5}));
-    EXPECT_EQ(tabled, (std::vector<int>{701, 701, 42}));
+            document->Map().GetItem(E_LAYER_WELLS, 1, 1, ZVCulture(culture), id));
+        return std::pair(dynamic_cast<CZvDispSymbols&>(*item).GetSymbolNum(),
+                         int(item->GetColor()));
+    };
+    EXPECT_EQ(symbol(221, 10001).first, 701);
+    EXPECT_EQ(symbol(220, 10002), std::pair(68, 5)); // both names mean 68
+    EXPECT_EQ(symbol(221, 10003).first, 42);
+    EXPECT_EQ(symbol(220, 10004), std::pair(68, 7));
+    EXPECT_TRUE(document->Report().sources[0].reasons.empty());
+}
+
+TEST_F(MapDocumentTest, ASymbolThatIsNotThereIsLeftOutAndCounted) {
+    Put("w.csv", "X,Y,T\n1,2,OIL\n1,2,??\n1,2,??\n1,2,\n");
+    const auto document = Open(R"({"file": "w.csv", "position": ["X", "Y"], "items": [
+        {"kind": "symbol", "layer": 25, "culture": 220, "symbol": {"by": "{T}"}},
+        {"kind": "text", "layer": 25, "culture": 222, "label": "{T}"}]})");
+    const SourceReport& report = document->Report().sources.at(0);
+    EXPECT_EQ(document->Map().GetCultureCount(E_LAYER_WELLS, 1, 1, ZVCulture(220)), 1);
+    EXPECT_EQ(report.items, 4); // one symbol, three labels
+    EXPECT_EQ(report.reasons,
+              (std::map<std::string, long long>{
+                  {"no symbol \"??\"", 2}, {"no symbol \"\"", 1}, {"no text for a label", 1}}));
+    EXPECT_EQ(report.fewer, 2);
+    EXPECT_EQ(report.rejected, 1);
+}
+
+TEST_F(MapDocumentTest, ASymbolOfTheProjectThatIsNotThereIsAnErrorWithItsPlace) {
+    Put("s.csv", "X,Y\n1,1\n");
+    const auto fault = [this](const std::string& symbol, const std::string& more = "") {
+        try {
+            Open(R"({"file": "s.csv", "position": ["X", "Y"], "items": [
+                 {"kind": "symbol", "layer": 90, "culture": 556, "symbol": )" +
+                     symbol + "}]}",
+                 more);
+        } catch (const DataError& error) {
+            return error.GetError().place + ": " + error.GetError().reason;
+        }
+        return std::string("none");
+    };
+    const std::string rule = "/sources/0/items/0/symbol";
+    EXPECT_EQ(fault("990"), rule + ": there is no symbol 990");
+    EXPECT_EQ(fault("\"NONE\""), rule + ": there is no symbol \"NONE\"");
+    EXPECT_EQ(fault(R"({"by": "{X}", "table": {"1": "OIL", "2/a": 991}})"),
+              rule + "/table/2~1a: there is no symbol 991");
+    EXPECT_EQ(fault(R"({"by": "{X}", "table": {"1": "OIL"}, "default": "NONE"})"),
+              rule + "/default: there is no symbol \"NONE\"");
+    EXPECT_EQ(fault("56", R"(, "furniture": {"north": 992})"),
+              "/furniture/north: there is no symbol 992");
+    EXPECT_EQ(fault("56", R"(, "furniture": {"legends": [{"detail": 0, "title": "L", "rows": [
+                             {"text": "a", "line": true}, {"text": "b", "symbol": "NONE"}]}]})"),
+              "/furniture/legends/0/rows/1/symbol: there is no symbol \"NONE\"");
+    EXPECT_EQ(fault("\"UNKNWN\""), "none");
+}
+
+TEST_F(MapDocumentTest, AnAngleThatIsNoNumberGivesNoItem) {
+    Put("s.csv", "X,Y,A\n1,1,30\n1,1,north\n1,1,\n");
+    const auto document = Open(R"({"file": "s.csv", "position": ["X", "Y"], "items": [
+        {"kind": "symbol", "layer": 90, "culture": 556, "symbol": 56, "angle": "{A}"}]})");
+    const SourceReport& report = document->Report().sources.at(0);
+    EXPECT_EQ(report.items, 1);
+    EXPECT_EQ(report.rejected, 2);
+    EXPECT_EQ(report.reasons, (std::map<std::string, long long>{{"angle is no number", 2}}));
+    EXPECT_THROW(Open(R"({"file": "s.csv", "position": ["X", "Y"], "items": [
+        {"kind": "symbol", "layer": 90, "culture": 556, "symbol": 56, "angle": "north"}]})"),
+                 DataError);
+}
+
+TEST_F(MapDocumentTest, EachRowIsFilteredOrGivesItemsOrIsCountedWithAReason) {
+    Put("s.csv", "X,Y,L,N\n0,0,A,a\n1,0,A,\n5,5,B,b\n6,6,C,\n");
+    const auto document = Open(R"({"file": "s.csv", "position": ["X", "Y"], "items": [
+        {"kind": "line", "layer": 16, "culture": 658, "group": "{L}", "where": {"L": ["A", "B"]}},
+        {"kind": "line", "layer": 16, "culture": 665, "where": {"L": "B"}},
+        {"kind": "polygon", "layer": 3, "culture": 12, "where": {"L": "B"}},
+        {"kind": "line-number", "layer": 16, "culture": 664, "label": "{N}", "where": {"L": "B"}}]})");
+    const SourceReport& report = document->Report().sources.at(0);
+    EXPECT_EQ(report.rows, 4);
+    EXPECT_EQ(report.items, 1);    // of the two rows of A
+    EXPECT_EQ(report.filtered, 1); // C, on which no rule acts
+    EXPECT_EQ(report.rejected, 1);
+    EXPECT_EQ(report.fewer, 0);
+    EXPECT_EQ(report.reasons, (std::map<std::string, long long>{{"a line of one point", 1},
+                                                                {"a point is no area", 1},
+                                                                {"a point is no line", 1}}));
 }
 
 TEST_F(MapDocumentTest, AMultipolygonGivesAnItemForEachPartUnderOneId) {

@@ -232,6 +232,11 @@ TEST(SymbolNames, AnUnknownNameGives68) {
     EXPECT_EQ(symbol.GetSymbolNum(), 68) << "names are looked up as they stand";
     symbol.SetSymbolNum("NOTHING");
     EXPECT_EQ(symbol.GetSymbolNum(), 68);
+    int number = 7;
+    EXPECT_FALSE(CZvDispSymbols::S_FindSymbolNum("NOTHING", number));
+    EXPECT_EQ(number, 7);
+    EXPECT_TRUE(CZvDispSymbols::S_FindSymbolNum("OIL", number));
+    EXPECT_EQ(number, 56);
 }
 
 TEST(SymbolNames, AMissingNameFileIsTold) {

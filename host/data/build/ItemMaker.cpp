@@ -2,6 +2,8 @@
 
 #include <cmath>
 
+#include "data/build/SymbolCheck.h"
+#include "data/read/FeatureReader.h"
 #include "data/read/Keyhole.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
@@ -9,6 +11,11 @@
 
 namespace zv::host {
 namespace {
+
+/// Why a row gives no item.
+struct NoItem {
+    std::string reason;
+};
 
 constexpr std::string_view kDegreeUtf8 = "\xC2\xB0";
 
@@ -23,13 +30,13 @@ ZVColor Colour(const ColourChoice& choice, const Row& row) {
     return ZVColor(Choose(choice, row));
 }
 
-void SetSymbol(CZvDispSymbols& item, const SymbolChoice& choice, const Row& row) {
-    if (choice.byName && choice.by) {
-        const std::string name = choice.by->Expand(row);
-        item.SetSymbolNum(name);
-        return;
-    }
-    const SymbolRef& symbol = Choose<SymbolRef>(choice, row);
+SymbolRef SymbolOf(const SymbolChoice& choice, const Row& row) {
+    if (choice.byName && choice.by) return {0, choice.by->Expand(row)};
+    return Choose<SymbolRef>(choice, row);
+}
+
+void SetSymbol(CZvDispSymbols& item, const SymbolRef& symbol) {
+    if (!SymbolIsThere(symbol)) throw NoItem{"no symbol " + SymbolText(symbol)};
     if (symbol.name.empty())
         item.SetSymbolNum(symbol.number);
     else
@@ -60,7 +67,8 @@ void PutText(CZvDispText& text, const CZvDispPoint& point, char horizontal, doub
     text.SetHorzJustify(turned ? 'l' : horizontal);
 }
 
-std::vector<ItemPtr> ItemMaker::Make(const ItemRule& rule, const Row& row, const Part& part) const {
+std::vector<ItemPtr> ItemMaker::MakeAll(const ItemRule& rule, const Row& row,
+                                        const Part& part) const {
     std::vector<ItemPtr> items;
     switch (rule.kind) {
     case ItemKind::Line: items.push_back(MakeLine(part)); break;
@@ -70,10 +78,18 @@ std::vector<ItemPtr> ItemMaker::Make(const ItemRule& rule, const Row& row, const
     case ItemKind::Circle: items.push_back(MakeCircle(rule, row, part)); break;
     case ItemKind::LineNumber: items = MakeLineNumber(rule, row, part); break;
     }
-    std::erase(items, nullptr);
-    for (const ItemPtr& item : items)
-        Finish(*item, rule, row);
     return items;
+}
+
+Made ItemMaker::Make(const ItemRule& rule, const Row& row, const Part& part) const {
+    try {
+        Made made{MakeAll(rule, row, part), {}};
+        for (const ItemPtr& item : made.items)
+            Finish(*item, rule, row);
+        return made;
+    } catch (const NoItem& none) {
+        return {{}, none.reason};
+    }
 }
 
 void ItemMaker::Finish(CZvDisplayItem& item, const ItemRule& rule, const Row& row) const {
@@ -86,14 +102,14 @@ void ItemMaker::Finish(CZvDisplayItem& item, const ItemRule& rule, const Row& ro
 }
 
 ItemPtr ItemMaker::MakeLine(const Part& part) const {
-    if (part.shape == Shape::Point) return nullptr;
+    if (part.shape == Shape::Point) throw NoItem{"a point is no line"};
     auto line = std::make_unique<CZvDispPolyLine>();
     line->GetVertices() = part.shape == Shape::Area ? Outline(part) : part.rings.front();
     return line;
 }
 
 ItemPtr ItemMaker::MakePolygon(const Part& part) const {
-    if (part.shape == Shape::Point) return nullptr;
+    if (part.shape == Shape::Point) throw NoItem{"a point is no area"};
     auto polygon = std::make_unique<CZvDispPolygon>();
     polygon->GetVertices() = Keyhole(part);
     polygon->SetFill(true);
@@ -103,7 +119,16 @@ ItemPtr ItemMaker::MakePolygon(const Part& part) const {
 double ItemMaker::AngleOf(const ItemRule& rule, const Row& row, const Stand& stand) const {
     if (rule.angle.IsEmpty()) return 0.0;
     const std::string text = rule.angle.Expand(row);
-    return text == "along" ? Upright(stand.direction) : ParseDouble(text);
+    if (text == "along") return Upright(stand.direction);
+    double degrees = 0.0;
+    if (!ParseCoordinate(text, degrees)) throw NoItem{"angle is no number"};
+    return degrees;
+}
+
+std::string ItemMaker::LabelOf(const ItemRule& rule, const Row& row) const {
+    std::string label = LabelText(rule.label.Expand(row), m_lost);
+    if (label.empty()) throw NoItem{"no text for a label"};
+    return label;
 }
 
 CZvDispPoint ItemMaker::Shifted(const ItemRule& rule, const Stand& stand, double degrees) const {
@@ -116,7 +141,7 @@ ItemPtr ItemMaker::MakeSymbol(const ItemRule& rule, const Row& row, const Part& 
     auto symbol = std::make_unique<CZvDispSymbols>();
     const Stand stand = StandOf(part, rule.at);
     const double degrees = AngleOf(rule, row, stand);
-    SetSymbol(*symbol, rule.symbol, row);
+    SetSymbol(*symbol, SymbolOf(rule.symbol, row));
     symbol->SetCenter(Shifted(rule, stand, degrees));
     symbol->SetScale(m_frame.Inches(rule.size));
     symbol->SetDegree(degrees);
@@ -126,8 +151,7 @@ ItemPtr ItemMaker::MakeSymbol(const ItemRule& rule, const Row& row, const Part& 
 }
 
 ItemPtr ItemMaker::MakeText(const ItemRule& rule, const Row& row, const Part& part) const {
-    const std::string label = LabelText(rule.label.Expand(row), m_lost);
-    if (label.empty()) return nullptr;
+    const std::string label = LabelOf(rule, row);
     auto text = std::make_unique<CZvDispText>();
     const Stand stand = StandOf(part, rule.at);
     const double degrees = AngleOf(rule, row, stand);
@@ -151,15 +175,15 @@ ItemPtr ItemMaker::MakeCircle(const ItemRule& rule, const Row& row, const Part& 
 
 std::vector<ItemPtr> ItemMaker::MakeLineNumber(const ItemRule& rule, const Row& row,
                                                const Part& part) const {
-    const std::string label = LabelText(rule.label.Expand(row), m_lost);
-    if (label.empty() || part.shape == Shape::Point) return {};
+    const std::string label = LabelOf(rule, row);
+    if (part.shape == Shape::Point) throw NoItem{"a point is no line"};
     const Stand stand = StandOf(part, rule.at);
     const bool atEnd = rule.at == Anchor::Last;
     CZvDispPoint position = Shifted(rule, stand, stand.direction);
     const std::unique_ptr<std::list<CZvDisplayItem*>> made(CZvDispSymbols::S_BuildLineNumberSymbol(
         rule.style, m_frame.Scale(), 1, rule.height, m_frame.Inches(rule.height), int(label.size()),
         stand.direction, position, atEnd ? 1 : 0, m_frame.IsFeet() ? 0 : 1));
-    if (!made) return {};
+    if (!made || made->empty()) throw NoItem{"no ends of a line number"};
     std::vector<ItemPtr> items;
     for (CZvDisplayItem* item : *made)
         items.emplace_back(item);

@@ -35,6 +35,12 @@ double Upright(double degrees);
 /// REQUIRES: label and height are set.
 void PutText(CZvDispText& text, const CZvDispPoint& point, char horizontal, double degrees);
 
+/// Items, or, where there are none, why not.
+struct Made {
+    std::vector<ItemPtr> items;
+    std::string problem;
+};
+
 /// Turns pieces of geometry on the map into items, as a rule says.
 class ItemMaker {
   public:
@@ -42,9 +48,8 @@ class ItemMaker {
     ItemMaker(const MapFrame& frame, CZvDisplayItemPara* para, int& lostCharacters)
         : m_frame(frame), m_para(para), m_lost(lostCharacters) {}
 
-    /// The items of one rule for one piece, all for the rule's place. Nothing for a text without
-    /// characters and a polygon of what is no area.
-    std::vector<ItemPtr> Make(const ItemRule& rule, const Row& row, const Part& part) const;
+    /// The items of one rule for one piece, all for the rule's place.
+    Made Make(const ItemRule& rule, const Row& row, const Part& part) const;
 
     /// Where an offset of the rule is counted from; for labels that look for room.
     CZvDispPoint AnchorOf(const ItemRule& rule, const Part& part) const {
@@ -52,6 +57,7 @@ class ItemMaker {
     }
 
   private:
+    /// These throw NoItem (a reason) where the row or its geometry gives none.
     ItemPtr MakeLine(const Part& part) const;
     ItemPtr MakePolygon(const Part& part) const;
     ItemPtr MakeSymbol(const ItemRule& rule, const Row& row, const Part& part) const;
@@ -59,9 +65,11 @@ class ItemMaker {
     ItemPtr MakeCircle(const ItemRule& rule, const Row& row, const Part& part) const;
     std::vector<ItemPtr> MakeLineNumber(const ItemRule& rule, const Row& row,
                                         const Part& part) const;
+    std::string LabelOf(const ItemRule& rule, const Row& row) const;
+    double AngleOf(const ItemRule& rule, const Row& row, const Stand& stand) const;
+    std::vector<ItemPtr> MakeAll(const ItemRule& rule, const Row& row, const Part& part) const;
     ItemPtr NumberText(const ItemRule& rule, const std::string& label,
                        const std::vector<ItemPtr>& ends, double degrees) const;
-    double AngleOf(const ItemRule& rule, const Row& row, const Stand& stand) const;
     CZvDispPoint Shifted(const ItemRule& rule, const Stand& stand, double degrees) const;
     void Finish(CZvDisplayItem& item, const ItemRule& rule, const Row& row) const;
 

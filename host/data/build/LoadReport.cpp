@@ -1,26 +1,44 @@
 #include "data/build/LoadReport.h"
 
-namespace zv::host {
+#include <algorithm>
 
-long long SourceReport::Rejected() const {
+namespace zv::host {
+namespace {
+
+long long Sum(const std::vector<SourceReport>& sources, long long SourceReport::*count) {
     long long sum = 0;
-    for (const auto& [reason, count] : rejected)
-        sum += count;
+    for (const SourceReport& source : sources)
+        sum += source.*count;
     return sum;
 }
 
+} // namespace
+
 long long LoadReport::Items() const {
-    long long sum = 0;
-    for (const SourceReport& source : sources)
-        sum += source.items;
-    return sum;
+    return Sum(sources, &SourceReport::items);
 }
 
 long long LoadReport::Rejected() const {
-    long long sum = 0;
-    for (const SourceReport& source : sources)
-        sum += source.Rejected();
-    return sum;
+    return Sum(sources, &SourceReport::rejected);
+}
+
+long long LoadReport::Fewer() const {
+    return Sum(sources, &SourceReport::fewer);
+}
+
+void RowOutcome::Reject(const std::string& reason) {
+    if (std::find(m_reasons.begin(), m_reasons.end(), reason) != m_reasons.end()) return;
+    m_reasons.push_back(reason);
+    ++m_report.reasons[reason];
+}
+
+RowOutcome::~RowOutcome() {
+    if (!m_asked)
+        ++m_report.filtered;
+    else if (!m_gave)
+        ++m_report.rejected;
+    else if (!m_reasons.empty())
+        ++m_report.fewer;
 }
 
 } // namespace zv::host

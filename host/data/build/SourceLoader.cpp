@@ -1,6 +1,7 @@
 #include "data/build/SourceLoader.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "map/ZvDispMap.h"
 #include "platform/Error.h"
@@ -111,6 +112,7 @@ void SourceLoader::Load() {
     }
     for (std::size_t i = 0; i < m_gathered.size(); ++i)
         Flush(i);
+    m_row.reset(); // the last row is counted too
     if (m_context.progress) m_context.progress(m_source.name, m_report.rows, m_report.rows);
 }
 
@@ -129,24 +131,20 @@ bool SourceLoader::Passes(const Row& row, const Feature& feature) const {
 }
 
 void SourceLoader::LoadRow(Feature& feature) {
-    m_rowReasons.clear();
+    m_row = std::make_shared<RowOutcome>(m_report);
     JoinTables(feature.values);
     const Row row{&m_fields, &feature.values};
-    if (!Passes(row, feature)) {
-        ++m_report.filtered;
-        return;
-    }
+    if (!Passes(row, feature)) return;
     if (feature.problem.empty()) Project(feature);
-    if (feature.problem.empty() && !feature.flaw.empty()) Reject(feature.flaw);
     for (std::size_t i = 0; i < m_source.items.size(); ++i)
         if (m_source.items[i].where.Holds(row)) Apply(i, row, feature);
 }
 
-/// A row that fails in several rules counts once for each reason.
-void SourceLoader::Reject(const std::string& reason) {
-    if (std::find(m_rowReasons.begin(), m_rowReasons.end(), reason) != m_rowReasons.end()) return;
-    m_rowReasons.push_back(reason);
-    ++m_report.rejected[reason];
+void SourceLoader::Settle(RowOutcome& row, const std::string& problem) {
+    if (problem.empty())
+        row.Give();
+    else
+        row.Reject(problem);
 }
 
 void SourceLoader::Project(Feature& feature) const {
@@ -162,11 +160,12 @@ void SourceLoader::Project(Feature& feature) const {
 void SourceLoader::Apply(std::size_t index, const Row& row, const Feature& feature) {
     const ItemRule& rule = m_source.items[index];
     if (m_passes[index]++ % rule.every != 0) return;
-    if (!rule.path.empty())
-        ApplyPath(rule, row);
-    else if (!feature.problem.empty())
-        Reject(feature.problem);
-    else if (!rule.group.IsEmpty())
+    m_row->Ask();
+    if (!rule.path.empty()) return ApplyPath(rule, row);
+    if (!feature.problem.empty()) return Settle(feature.problem);
+    if (feature.parts.empty()) return Settle("no geometry");
+    if (!feature.flaw.empty()) m_row->Reject(feature.flaw);
+    if (!rule.group.IsEmpty())
         Gather(index, row, feature.parts);
     else
         ApplyParts(rule, row, feature.parts);
@@ -178,34 +177,39 @@ void SourceLoader::ApplyPath(const ItemRule& rule, const Row& row) {
         CZvDispPoint point;
         const char* fault = ParsePosition(row.Value(fields.x), row.Value(fields.y), point);
         if (!fault) fault = m_toMap.Convert(point);
-        if (fault) return Reject(std::string(fault) + " (" + fields.x + ", " + fields.y + ")");
+        if (fault) return Settle(std::string(fault) + " (" + fields.x + ", " + fields.y + ")");
         points.push_back(point);
     }
-    AddItems(rule, row, {points.size() == 1 ? Shape::Point : Shape::Line, {std::move(points)}});
+    const Shape shape = points.size() == 1 ? Shape::Point : Shape::Line;
+    Settle(AddItems(rule, row, {shape, {std::move(points)}}));
 }
 
 void SourceLoader::ApplyParts(const ItemRule& rule, const Row& row,
                               const std::vector<Part>& parts) {
-    if (parts.empty()) return;
-    if (WantsOnePiece(rule)) return AddItems(rule, row, Largest(parts));
+    if (WantsOnePiece(rule)) return Settle(AddItems(rule, row, Largest(parts)));
     for (const Part& part : parts)
-        AddItems(rule, row, part);
+        Settle(AddItems(rule, row, part));
 }
 
 void SourceLoader::Gather(std::size_t index, const Row& row, const std::vector<Part>& parts) {
     Gathered& line = m_gathered[index];
     const std::string key = m_source.items[index].group.Expand(row);
     if (line.open && line.key != key) Flush(index);
-    if (!line.open) line = {true, key, *row.values, {}};
+    if (!line.open) line = {true, key, *row.values, {}, {}};
+    line.rows.push_back(m_row);
     for (const Part& part : parts)
         line.points.insert(line.points.end(), part.rings.front().begin(), part.rings.front().end());
 }
 
 void SourceLoader::Flush(std::size_t index) {
     Gathered line = std::exchange(m_gathered[index], {});
-    if (!line.open || line.points.size() < 2) return;
+    if (!line.open) return;
     const Row row{&m_fields, &line.values};
-    AddItems(m_source.items[index], row, {Shape::Line, {std::move(line.points)}});
+    std::string problem = "a line of one point";
+    if (line.points.size() > 1)
+        problem = AddItems(m_source.items[index], row, {Shape::Line, {std::move(line.points)}});
+    for (const auto& one : line.rows)
+        Settle(*one, problem);
 }
 
 /// Symbols, and texts that read from the left, keep other labels off.
@@ -221,18 +225,23 @@ void SourceLoader::AddObstacle(CZvDisplayItem& item) {
     }
 }
 
-void SourceLoader::AddItems(const ItemRule& rule, const Row& row, const Part& part) {
-    for (ItemPtr& item : m_maker.Make(rule, row, part)) {
-        ++m_report.items;
-        if (rule.clear && item->GetDispType() == ZV_DISP_TEXT) {
-            auto* text = static_cast<CZvDispText*>(item.release());
-            m_context.waiting.push_back(
-                {std::unique_ptr<CZvDispText>(text), m_maker.AnchorOf(rule, part), rule.place});
-            continue;
-        }
-        if (m_context.keepClear) AddObstacle(*item);
-        m_context.Add(std::move(item), rule.place);
+void SourceLoader::AddItem(ItemPtr item, const ItemRule& rule, const Part& part) {
+    ++m_report.items;
+    if (rule.clear && item->GetDispType() == ZV_DISP_TEXT) {
+        auto* text = static_cast<CZvDispText*>(item.release());
+        m_context.waiting.push_back(
+            {std::unique_ptr<CZvDispText>(text), m_maker.AnchorOf(rule, part), rule.place});
+        return;
     }
+    if (m_context.keepClear) AddObstacle(*item);
+    m_context.Add(std::move(item), rule.place);
+}
+
+std::string SourceLoader::AddItems(const ItemRule& rule, const Row& row, const Part& part) {
+    Made made = m_maker.Make(rule, row, part);
+    for (ItemPtr& item : made.items)
+        AddItem(std::move(item), rule, part);
+    return made.problem;
 }
 
 } // namespace zv::host

@@ -57,6 +57,7 @@ class SourceLoader {
         std::string key;
         std::vector<std::string> values;
         Points points;
+        std::vector<std::shared_ptr<RowOutcome>> rows; ///< that the points are of
     };
 
     std::string CrsOfSource() const;
@@ -72,9 +73,12 @@ class SourceLoader {
     void Gather(std::size_t rule, const Row& row, const std::vector<Part>& parts);
     void Flush(std::size_t rule);
     void AddObstacle(CZvDisplayItem& item);
-    void AddItems(const ItemRule& rule, const Row& row, const Part& part);
+    /// Gives why there are no items; empty when there are.
+    std::string AddItems(const ItemRule& rule, const Row& row, const Part& part);
+    void AddItem(ItemPtr item, const ItemRule& rule, const Part& part);
     void Project(Feature& feature) const;
-    void Reject(const std::string& reason);
+    void Settle(const std::string& problem) { Settle(*m_row, problem); }
+    static void Settle(RowOutcome& row, const std::string& problem);
 
     LoadContext& m_context;
     const Source& m_source;
@@ -86,8 +90,8 @@ class SourceLoader {
     ToMap m_toMap;
     ItemMaker m_maker;
     std::vector<Gathered> m_gathered;
-    std::vector<long long> m_passes; ///< rows that reached each rule
-    std::vector<std::string> m_rowReasons;
+    std::vector<long long> m_passes;   ///< rows that reached each rule
+    std::shared_ptr<RowOutcome> m_row; ///< the row at hand
 };
 
 } // namespace zv::host

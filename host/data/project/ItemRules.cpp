@@ -1,4 +1,5 @@
 #include "data/project/Nodes.h"
+#include "data/read/FeatureReader.h"
 
 namespace zv::host {
 namespace {
@@ -50,10 +51,21 @@ void ReadLook(const JsonNode& node, ItemRule& rule) {
     rule.style = IntOr(node, "style", 1, 1, 8);
 }
 
+/// An angle without fields is known now.
+Template ReadAngle(const JsonNode& node) {
+    const std::string text = node.Text(kMaxText);
+    Template angle = ReadTemplate(node);
+    double degrees = 0.0;
+    if (angle.Fields().empty() && !text.empty() && text != "along" &&
+        !ParseCoordinate(text, degrees))
+        node.Fail("must be degrees, \"along\" or a template");
+    return angle;
+}
+
 void ReadStand(const JsonNode& node, ItemRule& rule) {
     if (const auto justify = node.Find("justify")) ReadJustify(*justify, rule);
     if (const auto offset = node.Find("offset")) rule.offset = ReadPair(*offset);
-    rule.angle = TemplateOr(node, "angle");
+    if (const auto angle = node.Find("angle")) rule.angle = ReadAngle(*angle);
     if (const auto at = node.Find("at")) rule.at = ReadWord(*at, kAnchors);
     if (const auto path = node.Find("path"))
         for (const JsonNode& point : path->Items())
