@@ -70,6 +70,7 @@ bool CZvDispGL::Create(HDC dc) {
     Destroy();
     m_dc = dc;
     if (!MakePixelFormat() || !MakeContextCurrent()) {
+        Destroy();
         zv::GetMessageHost().ExitProcess(1);
         return false; // where somebody stands in for the end of the process
     }
