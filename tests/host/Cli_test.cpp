@@ -403,7 +403,7 @@ TEST_F(InterruptedCliTest, ASignalThatItsStarterHadIgnoredDoesNotEndARun) {
 }
 
 TEST_F(CliTest, AClosedStandardOutputIsAnError) {
-    for (const std::string verb : {"info '" + kGulf + "'", std::string("--help")}) {
+    for (const std::string& verb : {"info '" + kGulf + "'", std::string("--help")}) {
         const std::string command = "( sleep 0.2; env ZVDISP_WORK='" + (folder / "work") + "' '" +
                                     kProgram + "' " + verb + " 2>'" + (folder / "err") +
                                     "'; echo $? >'" + (folder / "code") + "' ) | true; while [ ! " +
@@ -461,7 +461,7 @@ TEST_F(CliTest, TheSourcesArchiveIsNotWrittenOver) {
 
 TEST_F(CliTest, AnOutputThatIsNoPngIsRefused) {
     for (const std::string name : {"", "x.jpg", "x", ".png"}) {
-        for (const std::string verb : {"render '" + kGulf + "'", std::string("symbols")}) {
+        for (const std::string& verb : {"render '" + kGulf + "'", std::string("symbols")}) {
             const Outcome outcome = Run(verb + " --dry-run -o '" + name + "'");
             EXPECT_EQ(outcome.code, 1);
             EXPECT_EQ(outcome.err, "zvdisp: --output: \"" + name + "\" does not end in .png\n");
