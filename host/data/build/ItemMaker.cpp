@@ -3,6 +3,7 @@
 #include <cmath>
 
 #include "data/build/SymbolCheck.h"
+#include "data/project/Words.h"
 #include "data/read/FeatureReader.h"
 #include "data/read/Keyhole.h"
 #include "platform/Numbers.h"

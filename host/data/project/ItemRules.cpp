@@ -1,5 +1,5 @@
 #include "data/project/Nodes.h"
-#include "data/read/FeatureReader.h"
+#include "data/project/Words.h"
 
 namespace zv::host {
 namespace {

@@ -31,9 +31,6 @@ std::unique_ptr<FeatureReader> OpenSource(const Source& source, const std::strin
 std::string SourcePath(const std::string& file, const std::string& member,
                        const std::string& folder);
 
-/// Parses a number that fills the whole text but for blanks around it; false for anything else.
-bool ParseCoordinate(const std::string& text, double& value);
-
 /// Parses both coordinates of a point. Null when it worked, else why not.
 const char* ParsePosition(const std::string& x, const std::string& y, CZvDispPoint& point);
 

@@ -5,6 +5,7 @@
 
 #include <cmath>
 
+#include "data/project/Words.h"
 #include "data/read/Gdal.h"
 #include "data/read/OgrGeometry.h"
 #include "platform/Error.h"
@@ -36,16 +37,6 @@ std::string OpenFault(const std::string& path) {
 }
 
 } // namespace
-
-bool ParseCoordinate(const std::string& text, double& value) {
-    const std::size_t first = text.find_first_not_of(" \t");
-    if (first == std::string::npos) return false;
-    const std::size_t last = text.find_last_not_of(" \t\r");
-    const std::string inner = text.substr(first, last - first + 1);
-    char* end = nullptr;
-    value = CPLStrtod(inner.c_str(), &end);
-    return end == inner.c_str() + inner.size() && std::isfinite(value);
-}
 
 const char* ParsePosition(const std::string& x, const std::string& y, CZvDispPoint& point) {
     const auto blank = [](const std::string& text) {
