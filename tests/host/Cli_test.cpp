@@ -419,6 +419,8 @@ TEST_F(CliTest, AClosedStandardOutputIsAnError) {
 TEST_F(CliTest, ADrawingSurfaceThatCannotBeMadeIsAnErrorOfOneLine) {
     const Outcome outcome =
         Run("render '" + kGulf + "' --size 16384x16384 -o '" + (folder / "x.png") + "'");
+    // Software renderers refuse it; a large graphics card may not, and then there is no error to
+    // see.
     if (outcome.code == 0) GTEST_SKIP() << "a surface of this size can be made here";
     EXPECT_EQ(outcome.code, 1);
     EXPECT_TRUE(outcome.err.starts_with("zvdisp: drawing surface: cannot be made; a smaller --size "
@@ -514,6 +516,7 @@ TEST_F(CliTest, TellsItsVersion) {
 }
 
 TEST_F(CliTest, TheRealDataGiveTheirCounts) {
+    // Public data that the tree does not hold; whoever has them beside it runs this too.
     if (!fs::exists(kRealData + "/wells")) GTEST_SKIP() << "the real data are not beside the tree";
     const Outcome outcome = Run("info '" + kShelf + "' --data '" + kRealData + "' --json");
     ASSERT_EQ(outcome.code, 0) << outcome.err;
